@@ -1,0 +1,323 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "control/State.h"
+#include "platform/Context.h"
+#include "tablepages/CellTable.h"
+#include "text/Enumerations.h"
+#include "text/PropertyFlags.h"
+
+namespace ostrel {
+
+class Bag;
+
+/// The one object that a host holds: everything its application does with the web, in flat members, with 41
+/// events. Every member runs on the host's thread and returns when the work is done; none throws. A flag
+/// result with an `ErrorMessage` argument means: False, and a full sentence there; `ErrorMessage` is emptied
+/// first. Texts are Windows-1252, arrays count from 1, paths have backslashes, lengths on the screen are
+/// twips.
+class OstrelWebHelp {
+public:
+    /// Constructed only: hidden, all members empty. The platform outlives the control.
+    explicit OstrelWebHelp(Platform& platform);
+    /// Runs `Terminate` where it has not run.
+    ~OstrelWebHelp();
+    OstrelWebHelp(const OstrelWebHelp&) = delete;
+    OstrelWebHelp& operator=(const OstrelWebHelp&) = delete;
+
+    Events events;
+    /// Hears the name of each property that a let has changed.
+    std::function<void(const Text& name)> PropertyChanged;
+
+    // Lifecycle, called by the container.
+
+    /// For a new control: every property to its default.
+    void InitProperties();
+    /// Lays everything out for the control's size.
+    void Resize();
+    /// At the end: the work files go.
+    void Terminate();
+
+    // Properties: the get and the let of each row.
+
+#define PROPERTY(kind, name, fallback, flags, doc)                                                           \
+    kind name() const;                                                                                       \
+    void name(kind value);
+#define CUSTOM(kind, name, fallback, flags, doc) PROPERTY(kind, name, fallback, flags, doc)
+#define INDEXED(kind, name, fallback, limit, doc)                                                            \
+    kind name(Long X) const;                                                                                 \
+    void name(Long X, kind value);
+#include "control/PropertyList.h"
+#undef PROPERTY
+#undef CUSTOM
+#undef INDEXED
+
+    // Text primitives
+
+    Text TrimCrLf(const Text& InputString);
+    /// Position of the ">" that ends a tag, looked for from StartPosition; double quotes protect. 0 for none.
+    Long FindTagClose(const Text& InputString, Long StartPosition);
+    /// Plain text of HTML.
+    Text StripTags(const Text& InputString);
+    Text AddMissingBackslash(const Text& InputString);
+    Text AddMissingSlash(const Text& InputString);
+    /// With "*" or "?" in the name: whether any plain file matches.
+    Flag FileExists(const Text& FilePath);
+
+    // Elements of HTML
+
+    void AddHTMLTag(Text& TagString, const Text& TagName, const Text& TagValue);
+    Text CreateAnchor(const Text& Anchor);
+    Text CreateAnchorName(const Text& AnchorName);
+    Text CreateBody(const Text& Body, const Text& BackGround, const Text& BackGroundColour,
+                    const Text& LinkColour, const Text& LinkVisibleColour, const Text& LinkActiveColour);
+    Text CreateBreak();
+    Text CreateFontEnd();
+    Text CreateFontStart(const Text& Face, const Text& Size, const Text& Colour);
+    Text CreateHeader(const Text& Title, const Text& Author, const Text& Keywords, const Text& Description,
+                      const Text& MetaTags);
+    /// Raises `ImageMissing` where `TestImage` is on and the local file is not there.
+    Text CreateImage(const Text& Image, const Text& Alt, const Text& Border, const Text& Width,
+                     const Text& Height, const Text& Align);
+    Text CreateLine(const Text& LineHeight, const Text& LineWidth, const Text& Colour);
+    Text CreateLink(const Text& Hyperlink, const Text& Description, Flag Bold, Flag Italic, Flag NewWindow);
+    /// Raises `HyperlinkMissing` where `TestHyperlink` is on and the local file is not there.
+    Text CreateLinkTitle(const Text& Hyperlink, const Text& Description, const Text& Title, Flag Bold,
+                         Flag Italic, Flag NewWindow);
+    /// One link a line of Description, so that line breaks stay outside the links.
+    Text CreateLinkTitleSplit(const Text& Hyperlink, const Text& Description, const Text& Title, Flag Bold,
+                              Flag Italic, Flag NewWindow);
+    Text CreateListEnd(Flag OrderedList);
+    Text CreateListItem(const Text& Element, Flag Space);
+    Text CreateListStart(Flag OrderedList);
+    Text CreateMeta(const Text& Name, const Text& Content);
+    Text CreateMetaClientPull(Long Seconds, const Text& URL);
+    Text CreateParagraph(const Text& Paragraph, Flag Centre);
+    Text CreateParagraphEnd();
+    Text CreateParagraphFixed(const Text& Font, const Text& Paragraph);
+    Text CreateParagraphStart();
+    Text CreateParagraphsFromText(const Text& InputString, Flag Breaks, Flag Multiple, Flag IgnoreReturn,
+                                  Flag IgnoreLineFeed);
+    Text CreateSpaces(Long NumberSpaces);
+    Text CreateString(const Text& InputString, Flag Bold, Flag Italic, Flag Underline = false);
+    Text CreateStringBold(const Text& InputString);
+    Text CreateStringColour(const Text& InputString, const Text& Colour, Flag Bold, Flag Italic,
+                            Flag Underline);
+    Text CreateStringItalic(const Text& InputString);
+    Text CreateStringJavaScript(const Text& InputString);
+    Text CreateStringUnderline(const Text& InputString);
+    Text CreateStringURL(const Text& InputString);
+
+    // Tables of HTML
+
+    /// Yields after every 50th row.
+    Text CreateTable(Long Rows, Long Columns, const Grid<Text>& CellValues, const Grid<Text>& CellTags,
+                     Flag SpaceColumns, const Text& Font, const Text& TableTags, const Text& RowTags,
+                     const Text& SpaceCellHTML, const Text& EmptyCellHTML);
+    /// Flushes the pending blank cells into a row and sets NumberBlanks to 0.
+    void CreateTableAddBlanks(Text& RowTable, Long& NumberBlanks);
+    Text CreateTableCell(const Text& Tags, const Text& Font, const Text& Cell);
+    Text CreateTableCellEnd();
+    Text CreateTableCellStart(const Text& Tags);
+    Text CreateTableEnd();
+    Text CreateTableRowEnd();
+    Text CreateTableRowStart(const Text& Tags);
+    Text CreateTableStart(const Text& Tags);
+    /// Empty for a value of zeros, else the value as it is.
+    Text CreateZeroBlank(const Text& Value);
+    /// Wraps text to CellWidth characters; below 11 it is left alone.
+    Text FormatCell(const Text& InputString, Long CellWidth, const Text& TrailString, const Text& LeadString);
+    Text LinkSeparateAll();
+    Text LinkSeparateFirst();
+    Text LinkSeparateLast();
+    Text LinkSeparateNext();
+    Text LinkSeparatePrevious();
+    /// The value of a field of the record page being created; only letters count in a name.
+    Text SeparatePageValue(const Text& FieldName);
+
+    // Pages
+
+    Text CreatePage(const Text& Body);
+    /// The page being built.
+    Text CurrentCreatePage();
+    void HelpPageInitialise();
+    Flag HelpPageSaveInternal(const Text& FilePath, Text& ErrorMessage);
+    Text InternalBuild(const Text& Part1, const Text& Part2, const Text& Part3);
+    /// Body of the last page created since `PageInitialise`.
+    Text PageBody();
+    Flag PageCreateList(const Text& FilePath, const Text& Title, Long NumberList, const Text& ListHeader,
+                        const Text& ListFooter, const Array<Text>& List, Text& ErrorMessage, Flag OrderedList,
+                        Flag Space);
+    Flag PageCreateSimple(const Text& FilePath, const Text& Title, const Text& Body, Text& ErrorMessage,
+                          Flag Centre);
+    Flag PageCreateSimpleBoxed(const Text& FilePath, const Text& Page, const Text& PageWidth,
+                               Text& ErrorMessage, Long BoxWidth, const Text& BoxColour);
+    Flag PageCreateSimpleBoxed2(const Text& FilePath, const Text& Title, const Text& Body,
+                                const Text& PageWidth, Flag PageCentre, const Text& PageColour,
+                                Text& ErrorMessage, Long BoxWidth, const Text& BoxColour);
+    void PageFontBoldSet(Long FontType, Flag Bold);
+    void PageFontColourSet(Long FontType, const Text& Colour);
+    void PageFontFaceSet(Long FontType, const Text& Name);
+    void PageFontItalicSet(Long FontType, Flag Italic);
+    void PageFontSizeSet(Long FontType, const Text& Size);
+    void PageInitialise();
+    void PageReset();
+
+    // Table pages
+
+    Flag PageCreateTable(const Text& FilePath, const Text& Title, Long NumberRows, Long NumberColumns,
+                         const Array<Text>& ColumnNames, const Array<Flag>& ColumnRight,
+                         const Grid<Text>& CellValues, const Grid<Text>& CellTags, Text& ErrorMessage);
+    Flag PageCreateTableNoTags(const Text& FilePath, const Text& Title, Long NumberRows, Long NumberColumns,
+                               const Array<Text>& ColumnNames, const Array<Flag>& ColumnRight,
+                               const Grid<Text>& CellValues, Text& ErrorMessage);
+    /// As `PageCreateTableNoTags`, over cells that the host keeps in buffers of its own.
+    Flag PageCreateTableFrom(const Text& FilePath, const Text& Title, const Array<Text>& ColumnNames,
+                             const Array<Flag>& ColumnRight, const CellTable& Cells, Text& ErrorMessage);
+    /// The highest row of any header link.
+    Long PageCreateTableMaxSubHeader();
+    Flag PageTableHeaderLinksAdd(const Text& Name, const Text& Link, Text& Error, const Text& ToolTip,
+                                 Flag Right, Long Options, Long Row);
+    void PageTableHeaderLinksClear();
+    Flag PageTableHeaderLinksFormat(Long Row, Long Position, const Text& Size, Flag Bold, Flag Italic,
+                                    const Text& NoLinkColour, Flag CentreAll);
+    void PageTableHeaderLinksShow(Flag Above, Flag Below, Flag AboveRepeat, Flag BelowRepeat);
+    void PageTableHeaderNavNames(const Text& FirstName, const Text& PreviousName, const Text& NextName,
+                                 const Text& LastName, const Text& AllName);
+
+    // Tag extraction
+
+    Long ExtractAllDoubleTagValues(const Text& InputString, const Text& TagName, const Text& TagAttribute,
+                                   Array<Text>& Values, Long MaxValues);
+    Long ExtractAllSingleTagValues(const Text& InputString, const Text& TagName, const Text& TagAttribute,
+                                   Array<Text>& Values, Long MaxValues);
+    Text ExtractDoubleTag(const Text& InputString, const Text& Tag, Flag TrimOutput, Flag IncludeTag);
+    Text ExtractMetaTag(const Text& InputString, const Text& Tag);
+    Flag ExtractMetaTagValues(const Text& Tag, Text& Name, Text& Content);
+    Text ExtractRemain();
+    void ExtractReset();
+    Text ExtractSingleTag(const Text& InputString, const Text& Tag, Flag TrimOutput, Flag IncludeTag);
+    Text ExtractTag(const Text& InputString);
+    Text ExtractTagValue(const Text& InputString, const Text& Name);
+    Long ExtractTagValues(const Text& InputString, Array<Text>& Names, Array<Text>& Values, Long MaxValues);
+
+    // Tag removal and content
+
+    Double CellNumericValue(const Text& InputString);
+    Long CellTimeSeconds(const Text& InputString);
+    Text ExtractContent(const Text& InputString, Flag RemoveDouble, Flag RemoveSpecials);
+    Text NormaliseSearchText(const Text& InputString);
+    Text RemoveBetweenTags(const Text& InputString, const Text& Tag, const Text& TagEnd, Flag TrimBlanks);
+    Text RemoveComments(const Text& InputString, Flag TrimBlanks);
+    Text RemoveDoubleTag(const Text& InputString, const Text& Tag, const Text& SubTag, Flag TrimBlanks);
+    Long SearchCount(const Text& InputString, const Text& SearchString, Flag MatchCase, Flag WholeWords);
+
+    // Paths and files
+
+    Text BuildPath(const Text& Directory, const Text& File);
+    Flag DirectoryChange(const Text& Directory, Text& ErrorMessage);
+    Flag DirectoryExists(const Text& Directory);
+    Flag DirectoryMake(const Text& Directory, Text& ErrorMessage);
+    Text ErrorMessageDoesNotExist(const Text& argMessage, const Text& argFile);
+    Text ErrorMessageNotDefined(const Text& argMessage);
+    Text ErrorMessageShortenFile(const Text& Message1, const Text& FilePath, const Text& Message2);
+    Text FileDirectory(const Text& FilePath);
+    Text FileExtension(const Text& FilePath);
+    Text FileExtensionChange(const Text& FilePath, const Text& Extension);
+    Flag FileHTML(const Text& FilePath);
+    Flag FileInternet(const Text& FilePath);
+    Text FileName(const Text& FilePath);
+    Text FileNameOnly(const Text& FilePath);
+    Text FilePathFromURL(const Text& FilePath);
+    Text FilePathFromURLCharacters(const Text& FilePath, Flag ConvertSlashes);
+    Text FilePathShorten(const Text& FilePath, const Text& Delimiter, Long MaxLength, Long StartKeep,
+                         Long SlashesStart, Long SlashesEnd);
+    Text FilePathSimplify(const Text& FilePath, const Text& Directory);
+    Flag FileRename(const Text& FilePath, const Text& NewName, Text& ErrorMessage);
+    Text FormatErrorMessage(Long ErrorNumber);
+    Flag KillFile(const Text& FilePath, Text& ErrorMessage);
+    Flag KillFiles(const Text& FilePath, Text& ErrorMessage, Flag NotExistError, Flag ClearAttributes);
+    Flag KillSelectedFiles(const Text& Mask, Text& ErrorMessage);
+    Flag KillTempFiles(const Text& TempTag, Text& ErrorMessage);
+    /// The sentence of the last failed `ReadFile`.
+    Text LastFileError();
+    Text ReadFile(const Text& FilePath);
+    Text RemoveLastBackslash(const Text& InputString);
+    Text RemoveLastSlash(const Text& InputString);
+    Text WinTempFile(const Text& TempTag, const Text& DefaultFile);
+    Text WinTempPath();
+    void WorkFileNextIncrement();
+    Text WorkFilePath(Long FileNumber);
+    void WorkFilesKill();
+    Flag WriteFile(const Text& FilePath, const Text& Output, Text& ErrorMessage);
+    Text WriteFileCSVValue(const Text& Value, const Text& Delimiter);
+    Flag WriteFileFromCSVDatabase(const Text& FilePath, const Array<Text>& FieldNames,
+                                  const Grid<Text>& FieldValues, Long NumberRecords, Long NumberFields,
+                                  Text& ErrorMessage, const Text& Delimiter, Flag CreateBackup);
+    Flag WriteFileFull(const Text& Title, const Text& FilePath, const Text& Output, Text& ErrorMessage,
+                       Flag CreateBackup, Flag AskOverwrite, Flag Overwrite);
+
+    // Sorting: the pointers are reordered, the values stay.
+
+    void SortDate(const Array<Date>& DateValues, Array<Long>& Pointers, Long NumberSort, Flag SortUp);
+    void SortNumeric(const Array<Double>& NumericValues, Array<Long>& Pointers, Long NumberSort, Flag SortUp);
+    void SortText(const Array<Text>& TextValues, Array<Long>& Pointers, Long NumberSort, Flag SortUp);
+
+    // Settings
+
+    Variant QueryValue(Long KeyArea, const Text& KeyName, const Text& ValueName);
+    void RegistryDeleteKey(const Text& Section, const Text& Key);
+    void RegistryDeleteSection(const Text& Section);
+    Text RegistryGetSetting(const Text& Section, const Text& Key, const Text& Default);
+    Flag RegistryGetSettingBoolean(const Text& Section, const Text& Key, Flag Default);
+    Double RegistryGetSettingDouble(const Text& Section, const Text& Key, Double Default);
+    Long RegistryGetSettingLong(const Text& Section, const Text& Key, Long Default);
+    void RegistrySaveSetting(const Text& Section, const Text& Key, const Text& Value);
+    void RegistrySaveSettingBoolean(const Text& Section, const Text& Key, Flag Value);
+    void RegistrySaveSettingDouble(const Text& Section, const Text& Key, Double Value);
+    void RegistrySaveSettingLong(const Text& Section, const Text& Key, Long Value);
+    /// ValueType 1 is a text, 4 a number.
+    void SetKeyValue(Long KeyArea, const Text& KeyName, const Text& ValueName, const Variant& Value,
+                     Long ValueType);
+
+    // Message boxes, waits and small formatters
+
+    Long CountryCode();
+    Text HoursMinutes(Long Minutes);
+    Text HoursMinutesSeconds(Long Seconds);
+    Flag IsTime(const Text& InputString, const Text& TimeDelimiter);
+    void MessageError(const Text& ErrorMessage);
+    void MessageInfo(const Text& ErrorMessage);
+    /// Buttons 0 OK, 1 OK Cancel, 2 Abort Retry Ignore, 3 Yes No Cancel, 4 Yes No, 5 Retry Cancel; answers 1
+    /// OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7 No.
+    Long MessageQuery(const Text& ErrorMessage, Long Buttons);
+    void MessageWarn(const Text& ErrorMessage);
+    Text MinutesSeconds(Long Seconds);
+    void ShowAboutBox();
+    void ShowOstrelAboutBox(const Text& ProgramName, Long Major, Long Minor, Long Revision,
+                            const Text& CreationDate, const Text& Description, const Text& Disclaimer,
+                            Long Top, Long Left);
+    void WaitMilliSeconds(Long MilliSeconds);
+    void WaitSeconds(Long Seconds);
+
+    /// The state, for the layers above that need more than the host does.
+    State& Inside() { return state_; }
+    Context& Around() { return context_; }
+
+private:
+    /// Keeps inside what is thrown below, and bounds nested calls: a call deeper than 64 levels does nothing
+    /// and gives its failure. Every thin member passes through it.
+    template <class Body>
+    auto Guarded(Body body) -> decltype(body());
+    void Announce(const Text& name, unsigned flags);
+
+    State state_;
+    RunFlags run_;
+    Context context_;
+    int depth_ = 0;
+    bool terminated_ = false;
+};
+
+} // namespace ostrel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "control/ControlProperties.h"
+#include "control/ToolbarProperties.h"
+#include "editors/EditProperties.h"
+#include "help/SearchProperties.h"
+#include "html/HelpProperties.h"
+#include "html/PageFonts.h"
+#include "html/PageProperties.h"
+#include "html/SeparatePage.h"
+#include "net/PullProperties.h"
+#include "services/ServiceProperties.h"
+#include "tablepages/HeaderLinks.h"
+#include "tablepages/TableOptions.h"
+
+namespace ostrel {
+
+/// All state of one control that outlives a call, in plain structs, one a subsystem. Empty by default; the
+/// defaults of the properties arrive with `InitProperties`, `ReadProperties` or `PageReset`.
+struct State {
+    ControlProperties control;
+    ToolbarProperties toolbar;
+    ServiceProperties service;
+    HelpProperties help;
+    PageProperties page;
+    PageFonts fonts;
+    TableOptions table;
+    HeaderLinks headerLinks;
+    SeparatePage separate;
+    SearchProperties search;
+    PullProperties pull;
+    EditProperties edit;
+
+    /// What the last extraction of a tag left over.
+    Text ExtractRemain;
+    /// The sentence of the last failed `ReadFile`.
+    Text LastFileError;
+};
+
+} // namespace ostrel

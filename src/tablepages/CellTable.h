@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+
+#include "text/Array.h"
+
+namespace ostrel {
+
+/// A cell in a buffer that the host keeps. Where the HTML differs from the plain value, the plain value
+/// stands directly before the HTML in the buffer.
+struct PackedCell {
+    static constexpr std::uint32_t Same = 0xFFFFFFFF;
+
+    const char* html = nullptr;
+    std::uint32_t length = 0;
+    std::uint32_t plainLength = Same;
+
+    TextView Html() const { return {html, length}; }
+    TextView Plain() const {
+        return plainLength == Same ? Html() : TextView{html - plainLength, plainLength};
+    }
+};
+
+/// The cells of a table as the report engine reads them, (row, column) from 1: a grid of texts, or packed
+/// cells, row by row. It refers to them and owns nothing; what lies outside is empty.
+class CellTable {
+public:
+    CellTable() = default;
+    explicit CellTable(const Grid<Text>& grid)
+        : texts_(grid.Data()), rows_(grid.Rows()), columns_(grid.Columns()) {}
+    CellTable(const PackedCell* cells, Long rows, Long columns)
+        : packed_(cells), rows_(rows), columns_(columns) {}
+
+    Long Rows() const { return rows_; }
+    Long Columns() const { return columns_; }
+    /// Whether plain values stand beside the HTML, so that they need no stripping.
+    bool HasPlain() const { return packed_ != nullptr; }
+
+    TextView Html(Long row, Long column) const {
+        if (!Holds(row, column)) return {};
+        return packed_ ? packed_[At(row, column)].Html() : TextView(texts_[At(row, column)]);
+    }
+    TextView Plain(Long row, Long column) const {
+        if (!Holds(row, column)) return {};
+        return packed_ ? packed_[At(row, column)].Plain() : TextView(texts_[At(row, column)]);
+    }
+
+private:
+    bool Holds(Long row, Long column) const {
+        return row >= 1 && row <= rows_ && column >= 1 && column <= columns_;
+    }
+    std::size_t At(Long row, Long column) const {
+        return static_cast<std::size_t>(row - 1) * static_cast<std::size_t>(columns_) +
+               static_cast<std::size_t>(column - 1);
+    }
+
+    const Text* texts_ = nullptr;
+    const PackedCell* packed_ = nullptr;
+    Long rows_ = 0;
+    Long columns_ = 0;
+};
+
+} // namespace ostrel
