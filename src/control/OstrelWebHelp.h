@@ -20,8 +20,9 @@ class Bag;
 /// twips.
 class OstrelWebHelp {
 public:
-    /// Constructed only: hidden, all members empty. The platform outlives the control.
-    explicit OstrelWebHelp(Platform& platform);
+    /// Constructed only: hidden, all members empty. The platform outlives the control. A `listener` hears
+    /// every event from the first on, those of the construction included.
+    explicit OstrelWebHelp(Platform& platform, EventList::AnyListener listener = {});
     /// Runs `Terminate` where it has not run.
     ~OstrelWebHelp();
     OstrelWebHelp(const OstrelWebHelp&) = delete;
