@@ -14,8 +14,7 @@ Text CreateZeroBlank(TextView value, TextView decimalDelimiter);
 bool IsZeroBlank(TextView value, TextView decimalDelimiter);
 Text FormatCell(TextView text, Long width, TextView trail, TextView lead);
 
-/// The HTML of a table, row by row, as `CreateTable` writes it. Cells and tags are views that need only live
-/// until the row is written; `Output` is any type with `append(TextView)`.
+/// What all cells of a table have in common.
 struct TableLook {
     bool spaceColumns = false;
     Text font;      ///< with the fallback of `HelpFont` already made
