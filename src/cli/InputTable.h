@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "cli/ByteSource.h"
+#include "cli/CellStore.h"
+#include "cli/ColumnTypes.h"
+#include "cli/CsvReader.h"
+
+namespace ostrel::cli {
+
+/// A table as it came in: names, cells, and what the columns hold.
+struct InputTable {
+    explicit InputTable(Markup markup) : cells(markup) {}
+
+    std::vector<Text> names;    ///< plain
+    std::vector<Text> nameHtml; ///< the same as a browser shows them
+    std::vector<ColumnType> types;
+    CellStore cells; ///< row by row
+    Long rows = 0;
+
+    Long Columns() const { return static_cast<Long>(names.size()); }
+};
+
+/// Reads CSV whole. Without a header row the columns are named by their numbers. Throws `InputError`.
+void ReadCsvTable(ByteSource& source, const CsvFormat& format, bool header, InputTable& table);
+
+/// Whether the file begins as a SQLite database does.
+bool IsSqliteFile(const std::string& path);
+
+/// Reads the rows of a query over a SQLite database, which is opened for reading only. With no query it is
+/// all of `tableName`, and with neither all of the one table that there is. Throws `InputError`.
+void ReadSqliteTable(const std::string& path, const std::string& query, const std::string& tableName,
+                     InputTable& table);
+
+} // namespace ostrel::cli

@@ -1,0 +1,36 @@
+#include "cli/Interrupt.h"
+
+#include <csignal>
+
+#include "cli/InputError.h"
+
+namespace ostrel::cli {
+
+namespace {
+
+volatile std::sig_atomic_t pressed = 0;
+
+extern "C" void OnInterrupt(int) { pressed = 1; }
+
+} // namespace
+
+InterruptGuard::InterruptGuard() {
+#if defined(_WIN32)
+    std::signal(SIGINT, OnInterrupt);
+#else
+    // Without SA_RESTART a read that waits for standard input comes back at once.
+    struct sigaction action {};
+    action.sa_handler = OnInterrupt;
+    sigaction(SIGINT, &action, nullptr);
+#endif
+}
+
+InterruptGuard::~InterruptGuard() { std::signal(SIGINT, SIG_DFL); }
+
+bool Interrupted() { return pressed != 0; }
+
+void ThrowIfInterrupted() {
+    if (Interrupted()) throw Interruption{};
+}
+
+} // namespace ostrel::cli
