@@ -1,0 +1,158 @@
+// bench-services ROWS: measures sorts and text services in process. Prints lines of a name and seconds.
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <numeric>
+
+#include "plain.h"
+#include "services/SortKeys.h"
+#include "services/Sorting.h"
+#include "services/TagText.h"
+#include "text/CodePage.h"
+
+using namespace ostrel;
+
+namespace {
+
+double Median(int runs, const std::function<void()>& prepare, const std::function<void()>& work) {
+    std::vector<double> times;
+    for (int run = 0; run < runs; ++run) {
+        prepare();
+        const double start = plain::CpuSeconds();
+        work();
+        times.push_back(plain::CpuSeconds() - start);
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+void Print(const char* name, const char* shape, double seconds) {
+    std::printf("%s.%s %.6f\n", name, shape, seconds);
+    std::fflush(stdout);
+}
+
+struct PlainEntry {
+    std::uint64_t prefix;
+    std::uint32_t begin, length;
+    Long pointer;
+};
+
+/// What a program of the trade does: fold once, sort an index with eight bytes of the key beside it.
+void PlainSort(const Array<Text>& texts, Array<Long>& pointers) {
+    std::string folded;
+    std::vector<PlainEntry> entries;
+    entries.reserve(static_cast<std::size_t>(texts.Count()));
+    for (const Long pointer : pointers) {
+        const Text& text = *texts.Find(pointer);
+        const std::size_t begin = folded.size();
+        for (const char c : text) folded += static_cast<char>(UpperByte(c));
+        std::uint64_t prefix = 0;
+        for (std::size_t i = 0; i < 8; ++i)
+            prefix = prefix << 8 | (i < text.size() ? static_cast<unsigned char>(folded[begin + i]) : 0);
+        entries.push_back({prefix, static_cast<std::uint32_t>(begin),
+                           static_cast<std::uint32_t>(folded.size() - begin), pointer});
+    }
+    const auto key = [&](const PlainEntry& entry) {
+        return std::string_view(folded).substr(entry.begin, entry.length);
+    };
+    std::sort(entries.begin(), entries.end(), [&](const PlainEntry& left, const PlainEntry& right) {
+        if (left.prefix != right.prefix) return left.prefix < right.prefix;
+        const int order = key(left).compare(key(right));
+        return order != 0 ? order < 0 : left.pointer < right.pointer;
+    });
+    for (Long i = 1; i <= pointers.Count(); ++i)
+        pointers.Put(i, entries[static_cast<std::size_t>(i - 1)].pointer);
+}
+
+/// A Shell sort that compares the texts themselves.
+void ShellSort(const Array<Text>& texts, Array<Long>& pointers) {
+    Long* const at = pointers.Data();
+    const auto above = [&](Long a, Long b) {
+        const int order = CompareText(*texts.Find(a), *texts.Find(b));
+        return order != 0 ? order > 0 : a > b;
+    };
+    const Long count = pointers.Count();
+    for (Long gap = count; gap >= 2;) {
+        gap /= 2;
+        for (Long i = gap; i < count; ++i)
+            for (Long j = i - gap; j >= 0 && above(at[j], at[j + gap]); j -= gap)
+                std::swap(at[j], at[j + gap]);
+    }
+}
+
+struct Shape {
+    const char* name;
+    std::function<Long(Long)> value; ///< of the place, counted from 0
+    const char* prefix = "";
+};
+
+void Sorts(Long rows) {
+    const auto scattered = [](Long i) { return static_cast<Long>(i * 2654435761u % 1000000007u); };
+    Long power = 1;
+    while (power < rows) power *= 2;
+    const std::vector<Shape> shapes{
+        {"random", scattered},
+        {"sorted", [](Long i) { return i; }},
+        {"reversed", [rows](Long i) { return rows - i; }},
+        {"equal", [](Long) { return Long{1}; }},
+        {"organ-pipe", [rows](Long i) { return std::min(i, rows - i); }},
+        {"interleaved", [rows](Long i) { return i % 2 ? rows / 2 + i / 2 : i / 2; }},
+        {"names", scattered, "Name "},
+        {"common-prefix", scattered, "the same long beginning of every key in the column, "},
+        {"power-of-two", scattered},
+    };
+    for (const Shape& shape : shapes) {
+        const bool isPower = std::strcmp(shape.name, "power-of-two") == 0;
+        const Long count = isPower ? power : rows;
+        Array<Text> texts;
+        for (Long i = 0; i < count; ++i) {
+            char digits[32];
+            std::snprintf(digits, sizeof digits, "%09ld", static_cast<long>(shape.value(i)));
+            texts.Append(shape.prefix + std::string(digits));
+        }
+        Array<Long> pointers(count);
+        const auto start = [&] { std::iota(pointers.begin(), pointers.end(), 1); };
+        Events events;
+        Platform platform;
+        RunFlags run;
+        Context context{events, platform, run};
+        const auto sort = [&] { services::SortText(context, texts, pointers, count, true); };
+        Print("sort-plain", shape.name, Median(3, start, [&] { PlainSort(texts, pointers); }));
+        const Array<Long> expected = pointers;
+        Print("sort", shape.name, Median(3, start, sort));
+        if (pointers != expected) std::exit(1);
+        events.SortProgress.Listen([](Text&, Long&) {});
+        Print("sort-watched", shape.name, Median(3, start, sort));
+        if (pointers != expected) std::exit(1);
+        if (shape.name == shapes.front().name)
+            Print("sort-shell", shape.name, Median(1, start, [&] { ShellSort(texts, pointers); }));
+    }
+}
+
+void Texts() {
+    const std::size_t size = std::size_t{10} << 20;
+    std::string tags, angles, page;
+    while (tags.size() < size) tags += "<TD VALIGN=\"TOP\"><B></B></TD>";
+    while (page.size() < size) page += "<TR><TD ALIGN=\"LEFT\">&nbsp;Some Text of a Cell&nbsp;</TD></TR>\r\n";
+    angles.assign(size, '<');
+    const auto nothing = [] {};
+    Print("strip", "tags", Median(3, nothing, [&] { services::StripTags(tags); }));
+    Print("strip", "page", Median(3, nothing, [&] { services::StripTags(page); }));
+    Print("strip", "open-angles", Median(3, nothing, [&] { services::StripTags(angles); }));
+    Print("replace", "page", Median(3, nothing, [&] { ReplaceAll(page, "&nbsp;", " "); }));
+    Print("replace-text", "page", Median(3, nothing, [&] { ReplaceAllText(page, "&NBSP;", " "); }));
+    Print("find-text", "page", Median(3, nothing, [&] { FindText(page, "some text of a cellar"); }));
+    const std::string almost(2000, 'a');
+    const std::string many(size, 'a');
+    Print("find-text", "repeated", Median(1, nothing, [&] { FindText(many, almost + "b"); }));
+    Print("copy", "page", Median(3, nothing, [&] { std::string copy(page); }));
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    Sorts(count > 1 ? static_cast<Long>(std::atol(arguments[1])) : 100000);
+    Texts();
+    return 0;
+}
