@@ -1,0 +1,153 @@
+#include "bridge/Bridge.h"
+
+#include <new>
+
+#include "bridge/Refusal.h"
+#include "bridge/Values.h"
+
+namespace ostrel::bridge {
+
+namespace {
+
+/// How deep the requests of listener rules may be nested, and how many one line may set off. Rules that raise
+/// the events that they listen to would otherwise run without an end.
+constexpr int MaxNestedRequests = 64;
+constexpr long MaxRequestsOfLine = 1'000'000;
+
+/// Runs the work; the result is the sentence that tells why it failed, empty for success.
+template <class Work>
+std::string Attempt(const Work& work) {
+    try {
+        work();
+        return {};
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    } catch (const std::bad_alloc&) {
+        return "There is not enough memory for this request.";
+    } catch (...) {
+        return "The request failed.";
+    }
+}
+
+/// The request's id as JSON; empty for none.
+std::string IdOf(const Json& request) {
+    const auto id = request.find("id");
+    if (id == request.end()) return {};
+    if (!id->is_string() && !id->is_number()) throw Refusal("The id must be a text or a number.");
+    return id->dump();
+}
+
+bool IsQuiet(const Json& request) {
+    const auto quiet = request.find("quiet");
+    if (quiet == request.end()) return false;
+    Flag value;
+    Read(*quiet, Place{"quiet"}, value);
+    return value;
+}
+
+/// Adds a key with the array of what was gathered, where anything was.
+void AddGathered(JsonWriter& writer, std::string_view key, const std::string& inside) {
+    if (inside.empty()) return;
+    writer.Key(key);
+    writer.Array(inside);
+}
+
+} // namespace
+
+Bridge::Bridge(Platform& platform)
+    : platform_(platform), events_([this](const Json& request) { CarryOutNested(request); }) {
+    MakeControl();
+    web_->InitProperties();
+}
+
+Bridge::~Bridge() { EndControl(); }
+
+void Bridge::MakeControl() {
+    web_ = std::make_unique<OstrelWebHelp>(
+        platform_,
+        [this](EventBase& event, std::span<const ArgumentRef> arguments) { events_.Hear(event, arguments); });
+    web_->PropertyChanged = [this](const Text& name) {
+        if (!changed_.empty()) changed_ += ',';
+        JsonWriter(changed_).String(name);
+    };
+}
+
+void Bridge::EndControl() {
+    if (web_) web_->Terminate();
+    web_.reset();
+}
+
+std::string Bridge::Answer(std::string_view line) {
+    std::string id, text;
+    std::string error = Attempt([&] {
+        const Json request = ParseRequest(line);
+        id = IdOf(request);
+        const bool quiet = IsQuiet(request);
+        nested_ = 0;
+        CallAnswer answer;
+        CarryOut(request, answer);
+        text = Compose(id, answer, quiet);
+    });
+    if (error.empty()) return text;
+    text.clear();
+    JsonWriter writer(text);
+    writer.BeginObject();
+    if (!id.empty()) {
+        writer.Key("id");
+        writer.Raw(id);
+    }
+    writer.Key("error");
+    writer.Utf8(error);
+    writer.EndObject();
+    return text;
+}
+
+const std::vector<Bridge::Verb>& Bridge::Verbs() {
+    static const std::vector<Verb> verbs{
+        {"on", &Bridge::On},   {"off", &Bridge::Off}, {"call", &Bridge::Call},
+        {"get", &Bridge::Get}, {"set", &Bridge::Set}, {"describe", &Bridge::Describe},
+    };
+    return verbs;
+}
+
+void Bridge::CarryOut(const Json& request, CallAnswer& answer) {
+    // An event of the construction or of the end finds no control to carry a request out on.
+    if (!web_) throw Refusal("There is no control at this moment.");
+    for (const Verb& verb : Verbs())
+        if (request.contains(verb.name)) return (this->*verb.carry)(request, answer);
+    throw Refusal("The request has no verb that is known.");
+}
+
+void Bridge::CarryOutNested(const Json& request) {
+    if (depth_ >= MaxNestedRequests || nested_ >= MaxRequestsOfLine) return;
+    ++depth_;
+    ++nested_;
+    Attempt([&] {
+        CallAnswer dropped;
+        CarryOut(request, dropped);
+    });
+    --depth_;
+}
+
+std::string Bridge::Compose(const std::string& id, const CallAnswer& answer, bool quiet) {
+    std::string text;
+    JsonWriter writer(text);
+    writer.BeginObject();
+    if (!id.empty()) {
+        writer.Key("id");
+        writer.Raw(id);
+    }
+    writer.Key("result");
+    writer.Raw(answer.result);
+    if (!answer.out.empty()) {
+        writer.Key("out");
+        writer.Object(answer.out);
+    }
+    const std::string events = events_.TakeEvents();
+    if (!quiet) AddGathered(writer, "events", events);
+    AddGathered(writer, "changed", std::exchange(changed_, {}));
+    writer.EndObject();
+    return text;
+}
+
+} // namespace ostrel::bridge

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "bridge/EventDesk.h"
+#include "bridge/JsonText.h"
+#include "bridge/Members.h"
+#include "control/OstrelWebHelp.h"
+
+namespace ostrel::bridge {
+
+/// A host of the component that is driven by lines of JSON: it holds one control and reaches everything of it
+/// by name. docs/bridge.md tells the requests and the answers.
+class Bridge {
+public:
+    /// Makes a control with `InitProperties` run, on a platform of its own.
+    explicit Bridge(Platform& platform);
+    /// Terminates the control.
+    ~Bridge();
+    Bridge(const Bridge&) = delete;
+    Bridge& operator=(const Bridge&) = delete;
+
+    /// The answer to one line, without a line end. It never throws, whatever stands on the line.
+    std::string Answer(std::string_view line);
+
+private:
+    using Carrier = void (Bridge::*)(const Json& request, CallAnswer& answer);
+    struct Verb {
+        std::string_view name;
+        Carrier carry;
+    };
+    /// In the order in which a request is searched for them.
+    static const std::vector<Verb>& Verbs();
+
+    void CarryOut(const Json& request, CallAnswer& answer);
+    void CarryOutNested(const Json& request);
+    std::string Compose(const std::string& id, const CallAnswer& answer, bool quiet);
+
+    void MakeControl();
+    void EndControl();
+
+    void Call(const Json& request, CallAnswer& answer);
+    void Get(const Json& request, CallAnswer& answer);
+    void Set(const Json& request, CallAnswer& answer);
+    void On(const Json& request, CallAnswer& answer);
+    void Off(const Json& request, CallAnswer& answer);
+    void Describe(const Json& request, CallAnswer& answer);
+
+    Platform& platform_;
+    EventDesk events_;
+    /// The inside of a JSON array of the names given to `PropertyChanged`.
+    std::string changed_;
+    /// How deep requests are nested in events, and how many of them the line has carried out.
+    int depth_ = 0;
+    long nested_ = 0;
+    std::unique_ptr<OstrelWebHelp> web_;
+};
+
+} // namespace ostrel::bridge

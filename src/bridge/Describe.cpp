@@ -1,0 +1,91 @@
+#include "bridge/Bridge.h"
+#include "bridge/Refusal.h"
+#include "bridge/Values.h"
+#include "control/PropertyTable.h"
+
+namespace ostrel::bridge {
+
+namespace {
+
+void DescribeMembers(JsonWriter& writer) {
+    for (const Member& member : AllMembers()) {
+        writer.BeginObject();
+        writer.Key("name");
+        writer.Utf8(member.name);
+        writer.Key("result");
+        writer.Utf8(member.result);
+        writer.Key("args");
+        writer.BeginArray();
+        for (const Argument& argument : member.arguments) {
+            writer.BeginObject();
+            writer.Key("name");
+            writer.Utf8(argument.name);
+            writer.Key("kind");
+            writer.Utf8(argument.kind);
+            writer.Key("out");
+            writer.Flag(argument.out);
+            writer.EndObject();
+        }
+        writer.EndArray();
+        writer.EndObject();
+    }
+}
+
+void DescribeProperties(JsonWriter& writer) {
+    for (const PropertyRow& row : AllProperties()) {
+        writer.BeginObject();
+        writer.Key("name");
+        writer.Utf8(row.name);
+        writer.Key("kind");
+        std::visit([&](const auto& value) { writer.Utf8(KindOf<decltype(value)>); }, row.fallback);
+        writer.Key("indexed");
+        writer.Flag(row.Indexed());
+        writer.Key("persisted");
+        writer.Flag(row.Persisted());
+        writer.Key("default");
+        std::visit([&](const auto& value) { Write(writer, value); }, row.fallback);
+        writer.EndObject();
+    }
+}
+
+void DescribeEvents(JsonWriter& writer, const Events& events) {
+    for (const EventBase* event : events.All()) {
+        writer.BeginObject();
+        writer.Key("name");
+        writer.Utf8(event->Name());
+        writer.Key("args");
+        writer.BeginArray();
+        for (std::string_view name : ArgumentNamesOf(*event)) writer.Utf8(name);
+        writer.EndArray();
+        writer.Key("kinds");
+        writer.BeginArray();
+        for (const ArgumentRef& kind : event->Kinds())
+            std::visit([&](const auto* value) { writer.Utf8(KindOf<decltype(*value)>); }, kind);
+        writer.EndArray();
+        writer.EndObject();
+    }
+}
+
+} // namespace
+
+void Bridge::Describe(const Json& request, CallAnswer& answer) {
+    if (request.at("describe") != "all") throw Refusal("Only all can be described.");
+    answer.result.clear();
+    JsonWriter writer(answer.result);
+    writer.BeginObject();
+    writer.Key("members");
+    writer.BeginArray();
+    DescribeMembers(writer);
+    writer.EndArray();
+    writer.Key("properties");
+    writer.BeginArray();
+    DescribeProperties(writer);
+    writer.EndArray();
+    writer.Key("events");
+    writer.BeginArray();
+    DescribeEvents(writer, web_->events);
+    writer.EndArray();
+    writer.EndObject();
+}
+
+} // namespace ostrel::bridge

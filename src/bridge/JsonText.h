@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+#include "text/Text.h"
+
+namespace ostrel::bridge {
+
+using Json = nlohmann::json;
+
+/// How deep arrays and objects of a line may stand in one another.
+inline constexpr int MaxNesting = 64;
+
+/// The object that stands on a line; a Refusal for anything else.
+Json ParseRequest(std::string_view line);
+
+/// Writes JSON at the end of a text, commas included. Answers are written straight from the component's own
+/// values, without a tree in between, since one may hold a page of many megabytes.
+class JsonWriter {
+public:
+    explicit JsonWriter(std::string& output) : output_(output), start_(output.size()) {}
+
+    void BeginObject() { Open('{'); }
+    void EndObject() { output_ += '}'; }
+    void BeginArray() { Open('['); }
+    void EndArray() { output_ += ']'; }
+    /// The key of the next value; plain ASCII.
+    void Key(std::string_view name);
+
+    /// A text of the component, which becomes UTF-8.
+    void String(TextView text);
+    /// A text that is UTF-8 already.
+    void Utf8(std::string_view text);
+    void Flag(bool value) { Raw(value ? "true" : "false"); }
+    void Null() { Raw("null"); }
+    void Whole(long long value);
+    /// The shortest digits that read back as the same number; null for what JSON can't tell.
+    void Number(double value);
+    void Number(float value);
+    /// A value that is JSON already.
+    void Raw(std::string_view json);
+    /// An object or an array whose inside is JSON already.
+    void Object(std::string_view inside);
+    void Array(std::string_view inside);
+
+private:
+    void Open(char bracket);
+    void Separate();
+
+    std::string& output_;
+    std::size_t start_;
+};
+
+} // namespace ostrel::bridge

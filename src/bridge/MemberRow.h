@@ -1,0 +1,188 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "bridge/Members.h"
+#include "bridge/Values.h"
+
+namespace ostrel::bridge {
+
+/// One row: the member's name, and the names of its arguments, separated by blanks. Kinds, directions and the
+/// result come from the signature. Behind the name of an array stand the arguments that count it:
+/// "List[NumberList]", "Cells[Rows,Columns]"; with ".." in front, "Values[..MaxValues]", the array grows to
+/// the count.
+#define MEMBER(name, names)                                                                                  \
+    [] {                                                                                                     \
+        constexpr auto arguments = SplitNames<ArityOf<&OstrelWebHelp::name>>(names);                         \
+        static_assert(arguments.fits, "names and parameters of " #name " differ");                           \
+        return MakeMember<&OstrelWebHelp::name>(#name, arguments);                                           \
+    }()
+
+/// The most elements that a growing array grows to.
+inline constexpr Long MaxGrownElements = 1'000'000;
+
+template <std::size_t Arity>
+struct ArgumentNames {
+    std::array<Argument, Arity> rows{};
+    bool fits = false;
+};
+
+/// The arguments of a row, without their kinds.
+template <std::size_t Arity>
+constexpr ArgumentNames<Arity> SplitNames(std::string_view text) {
+    ArgumentNames<Arity> names;
+    std::array<std::string_view, Arity> counts{};
+    std::size_t count = 0;
+    while (!text.empty()) {
+        const std::string_view word = text.substr(0, text.find(' '));
+        text.remove_prefix(std::min(text.size(), word.size() + 1));
+        if (count == Arity) return names;
+        const std::size_t bracket = word.find('[');
+        names.rows[count].name = word.substr(0, bracket);
+        if (bracket != std::string_view::npos)
+            counts[count] = word.substr(bracket + 1, word.size() - bracket - 2);
+        ++count;
+    }
+    names.fits = count == Arity;
+    const auto placeOf = [&](std::string_view name) {
+        for (std::size_t i = 0; i < Arity; ++i)
+            if (names.rows[i].name == name) return static_cast<int>(i);
+        names.fits = false;
+        return -1;
+    };
+    for (std::size_t i = 0; i < Arity; ++i) {
+        std::string_view counting = counts[i];
+        if (counting.empty()) continue;
+        if (counting.substr(0, 2) == "..") {
+            names.rows[i].grows = true;
+            counting.remove_prefix(2);
+        }
+        const std::size_t comma = counting.find(',');
+        names.rows[i].count = placeOf(counting.substr(0, comma));
+        if (comma != std::string_view::npos) names.rows[i].columnCount = placeOf(counting.substr(comma + 1));
+    }
+    return names;
+}
+
+/// An argument while the call runs. Cells in buffers of the host's own come from a grid here.
+template <class T>
+struct Held {
+    static constexpr std::string_view kind = KindOf<T>;
+    T value{};
+    T& Pass() { return value; }
+};
+template <>
+struct Held<CellTable> {
+    static constexpr std::string_view kind = KindOf<Grid<Text>>;
+    Grid<Text> value;
+    CellTable Pass() { return CellTable(value); }
+};
+
+template <class Parameter>
+inline constexpr bool IsOut =
+    std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>;
+
+/// What one argument counts, or how much it holds.
+struct Measure {
+    Long count = 0;
+    Long rows = 0, columns = 0;
+};
+
+inline Measure MeasureOf(const Long& value) { return {value, 0, 0}; }
+template <class T>
+Measure MeasureOf(const Array<T>& value) {
+    return {0, value.Count(), 0};
+}
+template <class T>
+Measure MeasureOf(const Grid<T>& value) {
+    return {0, value.Rows(), value.Columns()};
+}
+template <class T>
+Measure MeasureOf(const T&) {
+    return {};
+}
+
+template <class T>
+void Grow(Array<T>& array, Long count) {
+    count = std::min(count, MaxGrownElements);
+    if (count > array.Count()) array.Resize(count);
+}
+template <class T>
+void Grow(T&, Long) {}
+
+/// Refuses more arguments than the member takes.
+void RequireArity(const Member& member, const Json& arguments);
+/// Refuses a count that is larger than the array that it counts.
+void RequireCounts(const Member& member, std::span<const Measure> measures);
+
+template <auto Function, class Signature = decltype(Function)>
+struct Caller;
+
+template <auto Function, class Result, class... Parameters>
+struct Caller<Function, Result (OstrelWebHelp::*)(Parameters...)> {
+    static constexpr std::size_t arity = sizeof...(Parameters);
+    static constexpr std::string_view result = KindOf<Result>;
+    using Values = std::tuple<Held<std::remove_cvref_t<Parameters>>...>;
+
+    static void Describe([[maybe_unused]] std::span<Argument> rows) {
+        [[maybe_unused]] std::size_t i = 0;
+        ((rows[i].kind = Held<std::remove_cvref_t<Parameters>>::kind, rows[i++].out = IsOut<Parameters>),
+         ...);
+    }
+
+    static void Call(const Member& member, OstrelWebHelp& web, const Json& arguments, CallAnswer& answer) {
+        Call(member, web, arguments, answer, std::index_sequence_for<Parameters...>{});
+    }
+
+private:
+    template <std::size_t... I>
+    static void Call(const Member& member, OstrelWebHelp& web, const Json& arguments, CallAnswer& answer,
+                     std::index_sequence<I...>) {
+        RequireArity(member, arguments);
+        Values values;
+        [[maybe_unused]] const auto read = [&](std::size_t i, auto& held) {
+            if (i < arguments.size()) Read(arguments[i], Place{member.arguments[i].name}, held.value);
+        };
+        (read(I, std::get<I>(values)), ...);
+        const std::array<Measure, arity> measures{MeasureOf(std::get<I>(values).value)...};
+        RequireCounts(member, measures);
+        [[maybe_unused]] const auto grow = [&](const Argument& argument, auto& held) {
+            if (argument.grows) Grow(held.value, measures[static_cast<std::size_t>(argument.count)].count);
+        };
+        (grow(member.arguments[I], std::get<I>(values)), ...);
+
+        if constexpr (std::is_void_v<Result>) {
+            (web.*Function)(std::get<I>(values).Pass()...);
+        } else {
+            const Result given = (web.*Function)(std::get<I>(values).Pass()...);
+            answer.result.clear();
+            JsonWriter writer(answer.result);
+            Write(writer, given);
+        }
+        JsonWriter writer(answer.out);
+        [[maybe_unused]] const auto write = [&](const Argument& argument, const auto& held) {
+            if (!argument.out) return;
+            writer.Key(argument.name);
+            Write(writer, held.value);
+        };
+        (write(member.arguments[I], std::get<I>(values)), ...);
+    }
+};
+
+template <auto Function>
+inline constexpr std::size_t ArityOf = Caller<Function>::arity;
+
+template <auto Function, std::size_t Arity>
+Member MakeMember(std::string_view name, const ArgumentNames<Arity>& names) {
+    Member member{
+        name, Caller<Function>::result, {names.rows.begin(), names.rows.end()}, &Caller<Function>::Call};
+    Caller<Function>::Describe(member.arguments);
+    return member;
+}
+
+} // namespace ostrel::bridge

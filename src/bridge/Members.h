@@ -1,0 +1,50 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bridge/JsonText.h"
+#include "control/OstrelWebHelp.h"
+
+namespace ostrel::bridge {
+
+/// One argument of a member, as its row and the member's signature tell.
+struct Argument {
+    std::string_view name;
+    std::string_view kind;
+    /// The member writes it, and the answer gives it back.
+    bool out = false;
+    /// The place of the argument that counts the elements, or the rows; -1 for none.
+    int count = -1;
+    /// The place of the argument that counts the columns; -1 for none.
+    int columnCount = -1;
+    /// The count is the most that the member may fill in: the array grows to it.
+    bool grows = false;
+};
+
+/// What a call gave: its result as JSON, and the out arguments as the inside of a JSON object.
+struct CallAnswer {
+    std::string result = "null";
+    std::string out;
+};
+
+/// One member of the component by name.
+struct Member {
+    std::string_view name;
+    std::string_view result; ///< the kind
+    std::vector<Argument> arguments;
+    /// Calls it. The arguments are an array; a Refusal for one that does not fit, with nothing done.
+    void (*call)(const Member&, OstrelWebHelp&, const Json& arguments, CallAnswer&);
+
+    /// It gives a result and takes no arguments, so that it reads like a property.
+    bool ReadsLikeProperty() const { return arguments.empty() && result != "none"; }
+};
+
+/// All members, in the order of their families.
+std::span<const Member> AllMembers();
+/// The member of that exact name, or null.
+const Member* FindMember(std::string_view name);
+
+} // namespace ostrel::bridge

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <vector>
+
+#include "bridge/Members.h"
+
+namespace ostrel::bridge {
+
+// The rows of the members, a family a file.
+
+std::vector<Member> TextMembers();
+std::vector<Member> ElementMembers();
+std::vector<Member> TableMembers();
+std::vector<Member> PageMembers();
+std::vector<Member> TagMembers();
+std::vector<Member> FileMembers();
+std::vector<Member> SettingsMembers();
+std::vector<Member> MessageMembers();
+
+} // namespace ostrel::bridge
