@@ -12,4 +12,11 @@ struct SeparatePage {
     Array<Text> names, values;
 };
 
+namespace html {
+
+/// The value of a field of the record page being created. Only the letters of names count, in any case.
+Text SeparatePageValue(const SeparatePage& page, TextView fieldName);
+
+} // namespace html
+
 } // namespace ostrel
