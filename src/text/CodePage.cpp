@@ -1,6 +1,5 @@
 #include "text/CodePage.h"
 
-#include <array>
 #include <cstring>
 
 namespace ostrel {
@@ -34,20 +33,16 @@ constexpr char16_t HighScalars[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x
                                       0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                       0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-template <class Find>
-Text ReplaceWith(TextView text, TextView from, TextView to, Find find) {
-    if (from.empty()) return Text(text);
-    std::size_t hit = find(0);
-    if (hit == NotFound) return Text(text);
-    Text result;
-    result.reserve(text.size() + (to.size() > from.size() ? to.size() : 0));
-    std::size_t start = 0;
-    while (hit != NotFound) {
-        result.append(text, start, hit - start).append(to);
-        start = hit + from.size();
-        hit = find(start);
+/// How many bytes at the start are the same in whole words of 8, so that only what may differ is folded.
+std::size_t EqualWords(const char* left, const char* right, std::size_t size) {
+    std::size_t i = 0;
+    for (; i + 8 <= size; i += 8) {
+        std::uint64_t a, b;
+        std::memcpy(&a, left + i, 8);
+        std::memcpy(&b, right + i, 8);
+        if (a != b) break;
     }
-    return result.append(text, start);
+    return i;
 }
 
 } // namespace
@@ -82,7 +77,8 @@ Text Lower(TextView text) {
 
 int CompareText(TextView left, TextView right) {
     const std::size_t common = left.size() < right.size() ? left.size() : right.size();
-    for (std::size_t i = 0; i < common; ++i) {
+    std::size_t i = EqualWords(left.data(), right.data(), common);
+    for (; i < common; ++i) {
         const int difference = int{UpperByte(left[i])} - int{UpperByte(right[i])};
         if (difference != 0) return difference;
     }
@@ -99,39 +95,6 @@ bool StartsWithText(TextView text, TextView prefix) {
 
 bool EndsWithText(TextView text, TextView suffix) {
     return text.size() >= suffix.size() && EqualText(text.substr(text.size() - suffix.size()), suffix);
-}
-
-std::size_t FindText(TextView text, TextView phrase, std::size_t from) {
-    if (from > text.size()) return NotFound;
-    if (phrase.empty()) return from;
-    if (phrase.size() > text.size()) return NotFound;
-    const std::size_t last = text.size() - phrase.size();
-    const auto lower = static_cast<char>(LowerByte(phrase[0]));
-    const auto upper = static_cast<char>(UpperByte(phrase[0]));
-    const char* data = text.data();
-    if (lower == upper) {
-        while (from <= last) {
-            const void* hit = std::memchr(data + from, lower, last - from + 1);
-            if (!hit) return NotFound;
-            from = static_cast<std::size_t>(static_cast<const char*>(hit) - data);
-            if (EqualText(text.substr(from, phrase.size()), phrase)) return from;
-            ++from;
-        }
-        return NotFound;
-    }
-    for (; from <= last; ++from)
-        if ((data[from] == lower || data[from] == upper) &&
-            EqualText(text.substr(from, phrase.size()), phrase))
-            return from;
-    return NotFound;
-}
-
-Text ReplaceAll(TextView text, TextView from, TextView to) {
-    return ReplaceWith(text, from, to, [&](std::size_t start) { return text.find(from, start); });
-}
-
-Text ReplaceAllText(TextView text, TextView from, TextView to) {
-    return ReplaceWith(text, from, to, [&](std::size_t start) { return FindText(text, from, start); });
 }
 
 TextView TrimLeft(TextView text) {

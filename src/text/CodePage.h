@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "text/Text.h"
+#include "text/TextSearch.h"
 
 namespace ostrel {
 
@@ -23,18 +24,6 @@ int CompareText(TextView left, TextView right);
 bool EqualText(TextView left, TextView right);
 bool StartsWithText(TextView text, TextView prefix);
 bool EndsWithText(TextView text, TextView suffix);
-
-inline constexpr std::size_t NotFound = TextView::npos;
-
-/// First place of `phrase` at or behind `from` (counted from 0), ignoring case; NotFound where there is none.
-/// Linear: it folds as it goes and copies nothing. An empty phrase is found at `from`.
-std::size_t FindText(TextView text, TextView phrase, std::size_t from = 0);
-
-/// Replaces every place of `from`, left to right, not looking at what was put in. An empty `from` changes
-/// nothing.
-Text ReplaceAll(TextView text, TextView from, TextView to);
-/// The same, ignoring case.
-Text ReplaceAllText(TextView text, TextView from, TextView to);
 
 /// Blanks are character 32 alone.
 TextView TrimBlanks(TextView text);
