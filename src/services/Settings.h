@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/Context.h"
 #include "services/ServiceProperties.h"
 
@@ -26,6 +28,10 @@ public:
     void Set(Long area, const Text& key, const Text& name, const Variant& value, Long type) const;
 
 private:
+    std::optional<Text> Find(const Text& section, const Text& key) const;
+    /// Tells of a write that failed; an empty text is none.
+    void Trace(const Text& failure) const;
+
     Context& context_;
     const ServiceProperties& properties_;
 };
