@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "plain.h"
+#include "plain_sort.h"
 #include "services/SortKeys.h"
 #include "services/Sorting.h"
 #include "services/TagText.h"
@@ -30,39 +31,6 @@ double Median(int runs, const std::function<void()>& prepare, const std::functio
 void Print(const char* name, const char* shape, double seconds) {
     std::printf("%s.%s %.6f\n", name, shape, seconds);
     std::fflush(stdout);
-}
-
-struct PlainEntry {
-    std::uint64_t prefix;
-    std::uint32_t begin, length;
-    Long pointer;
-};
-
-/// What a program of the trade does: fold once, sort an index with eight bytes of the key beside it.
-void PlainSort(const Array<Text>& texts, Array<Long>& pointers) {
-    std::string folded;
-    std::vector<PlainEntry> entries;
-    entries.reserve(static_cast<std::size_t>(texts.Count()));
-    for (const Long pointer : pointers) {
-        const Text& text = *texts.Find(pointer);
-        const std::size_t begin = folded.size();
-        for (const char c : text) folded += static_cast<char>(UpperByte(c));
-        std::uint64_t prefix = 0;
-        for (std::size_t i = 0; i < 8; ++i)
-            prefix = prefix << 8 | (i < text.size() ? static_cast<unsigned char>(folded[begin + i]) : 0);
-        entries.push_back({prefix, static_cast<std::uint32_t>(begin),
-                           static_cast<std::uint32_t>(folded.size() - begin), pointer});
-    }
-    const auto key = [&](const PlainEntry& entry) {
-        return std::string_view(folded).substr(entry.begin, entry.length);
-    };
-    std::sort(entries.begin(), entries.end(), [&](const PlainEntry& left, const PlainEntry& right) {
-        if (left.prefix != right.prefix) return left.prefix < right.prefix;
-        const int order = key(left).compare(key(right));
-        return order != 0 ? order < 0 : left.pointer < right.pointer;
-    });
-    for (Long i = 1; i <= pointers.Count(); ++i)
-        pointers.Put(i, entries[static_cast<std::size_t>(i - 1)].pointer);
 }
 
 /// A Shell sort that compares the texts themselves.
@@ -118,7 +86,8 @@ void Sorts(Long rows) {
         RunFlags run;
         Context context{events, platform, run};
         const auto sort = [&] { services::SortText(context, texts, pointers, count, true); };
-        Print("sort-plain", shape.name, Median(3, start, [&] { PlainSort(texts, pointers); }));
+        const auto key = [&](Long pointer) { return TextView(*texts.Find(pointer)); };
+        Print("sort-plain", shape.name, Median(3, start, [&] { plain::SortIndex(key, pointers); }));
         const Array<Long> expected = pointers;
         Print("sort", shape.name, Median(3, start, sort));
         if (pointers != expected) std::exit(1);
