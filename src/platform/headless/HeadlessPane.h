@@ -1,0 +1,139 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "platform/BrowserPane.h"
+#include "platform/Clock.h"
+#include "platform/Files.h"
+#include "platform/headless/PageText.h"
+
+namespace ostrel {
+
+/// One thing that a pane was asked: its name and its arguments.
+struct PaneCall {
+    Text name;
+    std::vector<std::variant<Text, Long>> arguments;
+};
+
+/// A browser pane without an engine or a picture. It loads local files and their frames, keeps a history,
+/// and tells all of it through the loop, in this order: BeforeNavigate2, DownloadBegin, StatusTextChange,
+/// ProgressChange a chunk, NavigateComplete2, TitleChange and what changed of the forward and back states,
+/// the events of the frames, StatusTextChange "done", DocumentComplete, DownloadComplete. A refresh tells no
+/// navigation and no DocumentComplete; a load that fails leaves the page that is there and ends with
+/// StatusTextChange and DownloadComplete. Addresses other than local files always fail. Local pages are
+/// reported by the very text given to `Navigate`.
+class HeadlessPane final : public BrowserPane {
+public:
+    HeadlessPane(Clock& clock, Files& files) : clock_(clock), files_(files) {}
+
+    /// A new listener finds a fresh pane, but for what is held.
+    void Listen(BrowserSink* sink) override;
+    void Navigate(const Text& url) override;
+    /// A target that names a frame loads there; any other but the page itself asks for a new window.
+    void Navigate(const Text& url, const Text& target) override;
+    void GoBack() override;
+    void GoForward() override;
+    void GoHome() override;
+    void GoSearch() override;
+    void Stop() override;
+    void Refresh2(Long level) override;
+    /// Command 6 prints.
+    void ExecWB(Long command, Long option) override;
+    Text LocationName() const override { return page_.title; }
+    Text LocationURL() const override { return page_.url; }
+    bool Busy() const override { return busy_; }
+    Long ReadyState() const override { return readyState_; }
+    bool Offline() const override { return offline_; }
+    void Offline(bool offline) override { offline_ = offline; }
+    Text DocumentText(const Text& word) const override;
+    void Focus() override { ++focused_; }
+
+    // For whoever stands in for the engine or looks at what it did.
+
+    /// From now on only notes what it is asked: no load, no event.
+    void Hold();
+    /// What a held pane reports; what is left out stays.
+    void Report(std::optional<Text> url, std::optional<Text> name, std::optional<bool> busy,
+                std::optional<Long> readyState);
+    /// All that it was asked since the last taking.
+    std::vector<PaneCall> TakeLog() { return std::exchange(log_, {}); }
+    /// The addresses that were printed since the last taking.
+    std::vector<Text> TakePrinted() { return std::exchange(printed_, {}); }
+    /// The addresses that were to open in a window of their own since the last taking.
+    std::vector<Text> TakeWindows() { return std::exchange(windows_, {}); }
+    /// How often a refresh of that level was asked.
+    Long Refreshes(Long level) const;
+    /// How often it was given the focus.
+    Long Focused() const { return focused_; }
+    /// Who hears the events; null for nobody. To raise one by hand, call it.
+    BrowserSink* Sink() const { return sink_; }
+
+private:
+    enum class Way { Plain, History, Refresh, Frame };
+    struct Page {
+        Text url;
+        Text title;
+        Text html;
+    };
+    /// One load on its way. Only the newest one goes on.
+    struct Load {
+        Way way = Way::Plain;
+        Text url;
+        Text target;
+        std::size_t place = 0;
+        bool begun = false;
+        std::unique_ptr<FileReader> reader;
+        std::uint64_t size = 0;
+        std::uint64_t read = 0;
+        Text html;
+    };
+    using LoadPointer = std::shared_ptr<Load>;
+
+    void Note(Text name, std::vector<std::variant<Text, Long>> arguments = {});
+    void Start(Way way, const Text& url, const Text& target = {}, std::size_t place = 0);
+    void Abandon();
+    /// Runs the step through the loop, unless the load has been replaced by then.
+    void Later(const LoadPointer& load, void (HeadlessPane::*step)(const LoadPointer&));
+    /// Whether the load still runs and somebody listens; asked again behind every event.
+    bool Runs(const LoadPointer& load) const { return load_ == load && sink_; }
+    void Begin(const LoadPointer& load);
+    void ReadOn(const LoadPointer& load);
+    void Commit(const LoadPointer& load);
+    void CommitFrame(const LoadPointer& load);
+    void Fail(const LoadPointer& load);
+    void EndLoad(const LoadPointer& load);
+    bool TellStates(const LoadPointer& load);
+    bool LoadFrames(const LoadPointer& load, const Text& url, const Text& html, int depth, int& budget);
+    bool HasFrame(const Text& name) const;
+    bool OpenFile(Load& load);
+    void TellDownloadComplete();
+
+    Clock& clock_;
+    Files& files_;
+    BrowserSink* sink_ = nullptr;
+    bool held_ = false;
+    bool offline_ = false;
+    bool busy_ = false;
+    Long readyState_ = 0;
+    Page page_;
+    std::vector<Text> history_;
+    std::size_t place_ = 0;
+    bool canForward_ = false;
+    bool canBack_ = false;
+    LoadPointer load_;
+    /// Dies with the pane, so that posted work finds out.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+
+    std::vector<PaneCall> log_;
+    std::vector<Text> printed_;
+    std::vector<Text> windows_;
+    std::array<Long, 4> refreshes_{};
+    Long focused_ = 0;
+};
+
+} // namespace ostrel

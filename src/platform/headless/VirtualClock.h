@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/TimerQueue.h"
+
+namespace ostrel {
+
+/// A clock that stands still but for `Advance` and for the component's own waits, so that a run repeats to
+/// the byte. It starts at midnight of 1 January 2001.
+class VirtualClock final : public Clock {
+public:
+    std::uint32_t Ticks() const override { return static_cast<std::uint32_t>(tickOffset_ + now_); }
+    /// From now on the count runs from there; timers and the date do not notice.
+    void Ticks(std::uint32_t ticks) { tickOffset_ = static_cast<TimerQueue::Moment>(ticks) - now_; }
+    Date Now() const override;
+
+    std::unique_ptr<Timer> MakeTimer(std::function<void()> handler) override {
+        return queue_.MakeTimer(std::move(handler));
+    }
+    void Post(std::function<void()> work) override { queue_.Post(std::move(work)); }
+    bool Pending() const override { return queue_.Due(); }
+    void Yield() override { queue_.RunDue(); }
+    void Wait(Long milliseconds) override { Advance(milliseconds); }
+
+    /// Lets that much time pass, from one due moment to the next. What is due at the last one still runs.
+    void Advance(Long milliseconds);
+
+private:
+    void RunAllDue();
+
+    TimerQueue::Moment now_ = 0;
+    TimerQueue::Moment tickOffset_ = 0;
+    TimerQueue queue_{[this] { return now_; }};
+};
+
+} // namespace ostrel
