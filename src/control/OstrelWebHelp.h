@@ -12,6 +12,11 @@
 namespace ostrel {
 
 class Bag;
+class Children;
+struct ControlFrame;
+
+/// What the mouse did over the control.
+enum class MouseAction { Down, Move, Up };
 
 /// The one object that a host holds: everything its application does with the web, in flat members, with 41
 /// events. Every member runs on the host's thread and returns when the work is done; none throws. A flag
@@ -36,8 +41,15 @@ public:
 
     /// For a new control: every property to its default.
     void InitProperties();
+    /// For a stored control: every property from the bag, then the layout. What is missing takes its default;
+    /// what has a wrong form is passed over.
+    void ReadProperties(const Bag& Store);
+    /// Puts into the bag what differs from the defaults and takes out of it what does not.
+    void WriteProperties(Bag& Store);
     /// Lays everything out for the control's size.
     void Resize();
+    /// The container gives the control its size, then the layout runs. 9600 by 7200 before that.
+    void ResizeTo(Long Width, Long Height);
     /// At the end: the work files go.
     void Terminate();
 
@@ -54,6 +66,83 @@ public:
 #undef PROPERTY
 #undef CUSTOM
 #undef INDEXED
+
+    // Browser pane
+
+    Flag Busy();
+    /// Header and footer of printed pages, and other settings of the browser.
+    Text BrowserGetFooter();
+    Text BrowserGetHeader();
+    /// KeyName stands below the browser's own key. A setting that is not there is empty.
+    Text BrowserGetSetting(const Text& KeyName, const Text& ValueName);
+    Long BrowserLeft();
+    void BrowserSetFooter(const Text& Value);
+    void BrowserSetHeader(const Text& Value);
+    void BrowserSetSetting(const Text& KeyName, const Text& ValueName, const Text& Value);
+    Long BrowserTop();
+    /// Stops the pane, and long loops with it.
+    void Cancel();
+    /// The four go members give True in any case.
+    Flag GoBack();
+    Flag GoForward();
+    Flag GoHome();
+    Flag GoSearch();
+    /// True as soon as the navigation is asked for; the page on view is not loaded again.
+    Flag LoadURL(const Text& URL, Text& ErrorMessage);
+    Flag LoadURLToTarget(const Text& URL, const Text& Target, Text& ErrorMessage);
+    Text LocationName();
+    Text LocationURL();
+    /// 0 to 4, 4 for complete.
+    Long ReadyState();
+    void Refresh();
+    void RefreshCompletely();
+    void RefreshIfExpired();
+
+    // Progress panel and clock
+
+    /// Starts to measure a load; `DownloadTime` tells about ten times a second.
+    void ClockStart();
+    /// Ends it; the seconds so far, empty where no clock runs.
+    Text ClockStop();
+    Text ClockTime();
+    void StopGaugeReset();
+    /// ShowFraction is 0 to 1; what is above draws past the track.
+    void StopGaugeShow(Single ShowFraction);
+    /// `StopPressed` stays as the job left it.
+    void StopHide();
+    void StopShow(const Text& Heading);
+
+    // Help pages
+
+    Text HelpPageCurrent();
+    Flag HelpPageExists(const Text& HelpPage);
+    /// The HTML of the last internal page.
+    Text HelpPageInternal();
+    /// Loads a page of the help directory after `HelpDelay` milliseconds; a later call replaces it.
+    Flag HelpPageLoad(const Text& HelpPage, Text& ErrorMessage);
+    /// Builds a page from the three parts and loads it from a work file.
+    Flag HelpPageLoadInternal(Text& ErrorMessage);
+    /// Does not wait for the delay.
+    void HelpPageLoadNow();
+    Text HelpPageNext();
+
+    // Toolbar. Button is a token such as "forward", or the name of a user button, in any case.
+
+    /// Adds a user button with a bitmap file of `DirectoryRun`. A bad file leaves it without a picture.
+    Flag ButtonAdd(const Text& Name, const Text& BitMap, const Text& ToolTip, Text& ErrorMessage);
+    Flag ButtonAddPicture(const Text& Name, const Picture& BitMap, const Text& ToolTip, Text& ErrorMessage);
+    void ButtonClear();
+    /// The action of a default button, with no `ToolbarClick`.
+    void ButtonClick(const Text& Button);
+    Flag ToolbarButtonEnabled(const Text& Button);
+    void ToolbarButtonEnabledSet(const Text& Button, Flag State);
+    /// -1 for a hidden or unknown button.
+    Long ToolbarButtonLeft(const Text& Button);
+    Long ToolbarButtonMousePointer(const Text& Button);
+    void ToolbarButtonMousePointerSet(const Text& Button, Long Value);
+    /// The numbers of the last layout; 0 with the strip hidden.
+    void ToolbarButtonSizePosition(Long& Top, Long& Height, Long& Width);
+    Flag ToolbarButtonVisible(const Text& Button);
 
     // Text primitives
 
@@ -303,6 +392,19 @@ public:
     void WaitMilliSeconds(Long MilliSeconds);
     void WaitSeconds(Long Seconds);
 
+    // What a user does, for the layers that show the control or stand in for its user.
+
+    /// The visual children with their places.
+    const Children& View() const;
+    /// A real press: of a toolbar button by its token, of a user button by its name, of `cmdStop` or
+    /// `cmdURL`, or Enter in `txtURL`. False, with nothing done, where it is hidden, disabled or unknown.
+    Flag PressChild(const Text& Name);
+    /// The user changes the text of a child. False where it takes none.
+    Flag TypeIntoChild(const Text& Name, const Text& Value);
+    /// X and Y lie in the child of that name, "" being the control itself. False where no event is raised.
+    Flag MouseOverChild(MouseAction Action, const Text& Name, Integer Button, Integer Shift, Single X,
+                        Single Y);
+
     /// The state, for the layers above that need more than the host does.
     State& Inside() { return state_; }
     Context& Around() { return context_; }
@@ -314,9 +416,40 @@ private:
     auto Guarded(Body body) -> decltype(body());
     void Announce(const Text& name, unsigned flags);
 
+    // Lifecycle
+    void Trace(TextView line);
+    void SetDefaults();
+
+    // Browser pane
+    friend class PaneListener;
+    /// Null where the platform has none.
+    BrowserPane* Pane() const { return context_.platform.pane.get(); }
+    void FocusPane();
+    void NavigatePane(const Text& url);
+    void RefreshPane(Long level);
+    void DocumentCompleted(const Text& url);
+    void StatusTextChanged(const Text& text);
+
+    // Clock, stop panel and help pages
+    void ClockTick();
+    void SetPointer(Long shape);
+    Flag DirectoryHelpStands(Text& error);
+    void ArmHelp(const Text& location);
+    void HelpTick();
+
+    // Toolbar
+    Flag ButtonRegister(const Text& name, const Text& tip, Text& error);
+    void RunToolbarAction(int action);
+    void PressDefaultButton(int action);
+    void GoAddress();
+    void GoHomePage();
+    void GoIndexPage();
+    void GoPage(const Text& page);
+
     State state_;
     RunFlags run_;
     Context context_;
+    std::unique_ptr<ControlFrame> frame_;
     int depth_ = 0;
     bool terminated_ = false;
 };
