@@ -9,13 +9,15 @@ namespace {
 constexpr TextView Break = "<BR>";
 constexpr Long SmallestWidth = 11;
 
-/// Length of the entity at the start of the text, among the special characters from `first` on; 0 for none.
+constexpr std::size_t LongestEntity = 8;
+
+/// Length of the entity at the start of the text, or 0; `index` tells which it is. `skip` characters of the
+/// entities stand in front of the text.
 std::size_t EntityLength(TextView text, std::size_t first, std::size_t skip, std::size_t& index) {
+    const TextView entity = text.substr(0, text.substr(0, LongestEntity).find(';') + 1);
     const auto specials = services::SpecialCharacters();
-    for (index = first; index < specials.size(); ++index) {
-        const TextView rest = specials[index].entity.substr(skip);
-        if (StartsWithText(text, rest)) return rest.size();
-    }
+    for (index = first; !entity.empty() && index < specials.size(); ++index)
+        if (EqualText(specials[index].entity.substr(skip), entity)) return entity.size();
     return 0;
 }
 
