@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Clock.h"
+#include "platform/Files.h"
+#include "platform/SettingsStore.h"
+
+namespace ostrel {
+
+// The roles that need no screen, on the system that the program runs on.
+
+std::unique_ptr<Clock> MakeNativeClock();
+std::unique_ptr<Files> MakeNativeFiles();
+/// The settings of the user below XDG_CONFIG_HOME, or else HOME, as they stand now.
+std::unique_ptr<SettingsStore> MakeNativeSettings();
+
+} // namespace ostrel

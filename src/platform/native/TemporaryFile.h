@@ -1,0 +1,56 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "platform/native/SystemCalls.h"
+#include "text/Text.h"
+
+namespace ostrel {
+
+/// The directory of an absolute path of the system.
+std::string DirectoryOfSystemPath(const std::string& path);
+
+/// Writes all pieces, one behind the other; 0 or the system's error.
+int WriteAll(SystemCalls& calls, int file, std::span<const TextView> pieces);
+
+/// A file under construction beside its target. It has no name at all where the file system can do that, so
+/// that nothing is left of it whenever the process ends; else one by which no page, table or mask of the
+/// component goes. What was not put in place is gone at the end. Results are 0 or the system's error.
+class TemporaryFile {
+public:
+    enum class Kind { Unnamed, Named };
+
+    /// `target` must outlive it.
+    TemporaryFile(SystemCalls& calls, const std::string& target) : calls_(calls), target_(target) {}
+    ~TemporaryFile();
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    /// An unnamed file becomes a named one where there are none.
+    int Open(Kind kind);
+    /// In place of `Open` and `Write`: the file at `path` itself, under one more name.
+    int Adopt(const std::string& path);
+    /// Takes over mode and, where that is allowed, owner of the file that it is to replace.
+    int Resemble(const struct stat& model);
+    int Write(std::span<const TextView> pieces) { return WriteAll(calls_, file_, pieces); }
+    /// Takes the target's name; what stood there is replaced in one step. With `free` the name should be
+    /// free, which makes it cheaper.
+    int Place(bool free);
+    /// Whether the last step failed only because an unnamed file could not get a name.
+    bool Nameless() const { return nameless_; }
+
+private:
+    int OpenNamed();
+    int GetName();
+    int Close();
+
+    SystemCalls& calls_;
+    const std::string& target_;
+    std::string name_;
+    int file_ = -1;
+    bool adopted_ = false;
+    bool nameless_ = false;
+};
+
+} // namespace ostrel
