@@ -56,12 +56,12 @@ int CopyInto(SystemCalls& calls, const std::string& from, TemporaryFile& to) {
 int KeepBackup(SystemCalls& calls, const std::string& path, const struct stat& status,
                const std::string& backup) {
     TemporaryFile copy(calls, backup);
-    if (copy.Adopt(path) == 0) return copy.Place(false);
+    if (copy.Adopt(path) == 0) return copy.PlaceInstead();
     // Links are not to be had everywhere, nor from one file system to another.
     int error = copy.Open(TemporaryFile::Kind::Named);
     if (!error) error = copy.Resemble(status);
     if (!error) error = CopyInto(calls, path, copy);
-    return error ? error : copy.Place(false);
+    return error ? error : copy.PlaceInstead();
 }
 
 /// A device has nothing that could be kept whole.
@@ -72,9 +72,10 @@ int WriteStraight(SystemCalls& calls, const std::string& path, std::span<const T
     return device.Close() == 0 ? 0 : errno;
 }
 
-/// One attempt. `again` tells that another one with a named temporary file may go better.
+/// One attempt; `again` tells whether another one with a named temporary file may go better.
 int TryToReplace(SystemCalls& calls, std::string path, std::span<const TextView> pieces,
                  const std::string& backup, TemporaryFile::Kind kind, bool& again) {
+    again = false;
     std::optional<struct stat> old;
     if (const int error = FollowLinks(calls, path, old)) return error;
     if (old) {
@@ -89,8 +90,8 @@ int TryToReplace(SystemCalls& calls, std::string path, std::span<const TextView>
     if (!error && old) error = file.Resemble(*old);
     if (!error) error = file.Write(pieces);
     if (!error && old && !backup.empty()) error = KeepBackup(calls, path, *old, backup);
-    if (!error) error = file.Place(!old);
-    again = file.Nameless();
+    if (!error) error = old ? file.PlaceInstead() : file.PlaceNew();
+    again = file.WorthAnotherAttempt();
     return error;
 }
 
@@ -98,9 +99,11 @@ int TryToReplace(SystemCalls& calls, std::string path, std::span<const TextView>
 
 FileResult ReplaceFile(SystemCalls& calls, const std::string& path, std::span<const TextView> pieces,
                        const std::string& backup) {
-    bool again = false;
-    int error = TryToReplace(calls, path, pieces, backup, TemporaryFile::Kind::Unnamed, again);
-    if (error && again) error = TryToReplace(calls, path, pieces, backup, TemporaryFile::Kind::Named, again);
+    bool again = true;
+    int error = 0;
+    for (const auto kind :
+         {TemporaryFile::Kind::Unnamed, TemporaryFile::Kind::Named, TemporaryFile::Kind::Named})
+        if (again) error = TryToReplace(calls, path, pieces, backup, kind, again);
     return error ? PathFailure(calls, path, error) : FileResult{};
 }
 

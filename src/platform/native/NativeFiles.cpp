@@ -159,7 +159,7 @@ FileResult NativeFiles::ClearAttributes(const Text& path) {
     if (calls_.Status(place->c_str(), status) != 0) return PathFailure(calls_, *place, errno);
     if (status.st_mode & S_IWUSR) return {};
     const mode_t mode = (status.st_mode & 07777) | S_IWUSR;
-    return calls_.SetMode(place->c_str(), mode) == 0 ? FileResult{} : Failure(errno);
+    return calls_.SetModeOf(place->c_str(), mode) == 0 ? FileResult{} : Failure(errno);
 }
 
 FileResult NativeFiles::MakeDirectory(const Text& path) {

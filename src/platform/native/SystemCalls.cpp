@@ -62,7 +62,7 @@ int SystemCalls::Names(const char* directory, std::vector<DirectoryEntry>& entri
 
 int SystemCalls::SetMode(int file, mode_t mode) { return ::fchmod(file, mode); }
 
-int SystemCalls::SetMode(const char* path, mode_t mode) { return ::chmod(path, mode); }
+int SystemCalls::SetModeOf(const char* path, mode_t mode) { return ::chmod(path, mode); }
 
 int SystemCalls::SetOwner(int file, uid_t user, gid_t group) { return ::fchown(file, user, group); }
 

@@ -44,7 +44,7 @@ public:
     virtual int Names(const char* directory, std::vector<DirectoryEntry>& entries);
 
     virtual int SetMode(int file, mode_t mode);
-    virtual int SetMode(const char* path, mode_t mode);
+    virtual int SetModeOf(const char* path, mode_t mode);
     virtual int SetOwner(int file, uid_t user, gid_t group);
     /// Gives a file that was opened without a name its first one, which must be free.
     virtual int NameOpenFile(int file, const char* path);

@@ -96,12 +96,22 @@ int TemporaryFile::Resemble(const struct stat& model) {
     return calls_.SetMode(file_, model.st_mode & PermissionBits) == 0 ? 0 : errno;
 }
 
-int TemporaryFile::Place(bool free) {
-    if (name_.empty() && free) {
+int TemporaryFile::PlaceNew() {
+    if (name_.empty()) {
         if (calls_.NameOpenFile(file_, target_.c_str()) == 0) return Close();
-        nameless_ = true;
+        again_ = true;
         return errno;
     }
+    if (const int error = Close()) return error;
+    if (calls_.RenameToFree(name_.c_str(), target_.c_str()) != 0) {
+        again_ = errno == EEXIST;
+        return errno;
+    }
+    name_.clear();
+    return 0;
+}
+
+int TemporaryFile::PlaceInstead() {
     if (name_.empty()) {
         if (const int error = GetName()) return error;
     }
@@ -125,7 +135,7 @@ int TemporaryFile::GetName() {
         error = errno;
         if (error != EEXIST) break;
     }
-    nameless_ = true;
+    again_ = true;
     return error;
 }
 

@@ -34,11 +34,13 @@ public:
     /// Takes over mode and, where that is allowed, owner of the file that it is to replace.
     int Resemble(const struct stat& model);
     int Write(std::span<const TextView> pieces) { return WriteAll(calls_, file_, pieces); }
-    /// Takes the target's name; what stood there is replaced in one step. With `free` the name should be
-    /// free, which makes it cheaper.
-    int Place(bool free);
-    /// Whether the last step failed only because an unnamed file could not get a name.
-    bool Nameless() const { return nameless_; }
+    /// Takes the target's name, which is free.
+    int PlaceNew();
+    /// Takes the target's name from the file that has it, in one step.
+    int PlaceInstead();
+    /// Whether the last step failed only because the name was taken meanwhile, or because an unnamed file can
+    /// get none here; another attempt with a named one may go better.
+    bool WorthAnotherAttempt() const { return again_; }
 
 private:
     int OpenNamed();
@@ -50,7 +52,7 @@ private:
     std::string name_;
     int file_ = -1;
     bool adopted_ = false;
-    bool nameless_ = false;
+    bool again_ = false;
 };
 
 } // namespace ostrel
