@@ -1,6 +1,6 @@
 #include "platform/headless/HeadlessPlatform.h"
 
-#include "platform/headless/RealClock.h"
+#include "platform/native/NativePlatform.h"
 
 namespace ostrel {
 
@@ -9,10 +9,12 @@ HeadlessPlatform MakeHeadlessPlatform(bool virtualClock) {
     if (virtualClock)
         platform.clock = std::make_unique<VirtualClock>();
     else
-        platform.clock = std::make_unique<RealClock>();
+        platform.clock = MakeNativeClock();
+    platform.files = MakeNativeFiles();
+    platform.settings = MakeNativeSettings();
     platform.screen = std::make_unique<HeadlessScreen>();
     platform.clipboard = std::make_unique<HeadlessClipboard>();
-    if (platform.files) platform.pane = std::make_unique<HeadlessPane>(*platform.clock, *platform.files);
+    platform.pane = std::make_unique<HeadlessPane>(*platform.clock, *platform.files);
     return platform;
 }
 
