@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "bridge/FieldValues.h"
 #include "bridge/Refusal.h"
 #include "bridge/Values.h"
 
@@ -51,11 +52,35 @@ void AddGathered(JsonWriter& writer, std::string_view key, const std::string& in
     writer.Key(key);
     writer.Array(inside);
 }
+template <class Element, class WriteElement>
+void AddGathered(JsonWriter& writer, std::string_view key, const std::vector<Element>& gathered,
+                 const WriteElement& write) {
+    if (gathered.empty()) return;
+    writer.Key(key);
+    writer.BeginArray();
+    for (const Element& element : gathered) write(element);
+    writer.EndArray();
+}
+
+std::string_view WordOf(MessageKind kind) {
+    switch (kind) {
+    case MessageKind::Error:
+        return "error";
+    case MessageKind::Info:
+        return "info";
+    case MessageKind::Warn:
+        return "warn";
+    case MessageKind::Query:
+        return "query";
+    }
+    return {};
+}
 
 } // namespace
 
-Bridge::Bridge(Platform& platform)
-    : platform_(platform), events_([this](const Json& request) { CarryOutNested(request); }) {
+Bridge::Bridge(HeadlessPlatform& platform)
+    : platform_(platform), user_(platform),
+      events_([this](const Json& request) { CarryOutNested(request); }) {
     MakeControl();
     web_->InitProperties();
 }
@@ -84,6 +109,8 @@ std::string Bridge::Answer(std::string_view line) {
         id = IdOf(request);
         const bool quiet = IsQuiet(request);
         nested_ = 0;
+        // Real time has gone on since the last line. Virtual time stands still.
+        if (!platform_.VirtualTime() && platform_.clock->Pending()) platform_.clock->Yield();
         CallAnswer answer;
         CarryOut(request, answer);
         text = Compose(id, answer, quiet);
@@ -104,8 +131,25 @@ std::string Bridge::Answer(std::string_view line) {
 
 const std::vector<Bridge::Verb>& Bridge::Verbs() {
     static const std::vector<Verb> verbs{
-        {"on", &Bridge::On},   {"off", &Bridge::Off}, {"call", &Bridge::Call},
-        {"get", &Bridge::Get}, {"set", &Bridge::Set}, {"describe", &Bridge::Describe},
+        {"on", &Bridge::On},
+        {"off", &Bridge::Off},
+        {"form", &Bridge::QueueUser},
+        {"call", &Bridge::Call},
+        {"get", &Bridge::Get},
+        {"set", &Bridge::Set},
+        {"resize", &Bridge::ResizeControl},
+        {"press", &Bridge::Press},
+        {"type", &Bridge::Type},
+        {"look", &Bridge::Look},
+        {"mouse", &Bridge::Mouse},
+        {"pane", &Bridge::Pane},
+        {"browser", &Bridge::Browser},
+        {"advance", &Bridge::Advance},
+        {"clipboard", &Bridge::UseClipboard},
+        {"screen", &Bridge::SizeScreen},
+        {"ticks", &Bridge::Ticks},
+        {"new", &Bridge::Renew},
+        {"describe", &Bridge::Describe},
     };
     return verbs;
 }
@@ -145,9 +189,32 @@ std::string Bridge::Compose(const std::string& id, const CallAnswer& answer, boo
     }
     const std::string events = events_.TakeEvents();
     if (!quiet) AddGathered(writer, "events", events);
-    AddGathered(writer, "changed", std::exchange(changed_, {}));
+    AddScreen(writer);
     writer.EndObject();
     return text;
+}
+
+void Bridge::AddScreen(JsonWriter& writer) {
+    AddGathered(writer, "messages", user_.TakeMessages(), [&](const ShownMessage& message) {
+        writer.BeginArray();
+        writer.Utf8(WordOf(message.kind));
+        writer.String(message.text);
+        writer.String(message.title);
+        writer.EndArray();
+    });
+    AddGathered(writer, "seen", user_.TakeSeen(), [&](const Sight& sight) {
+        writer.BeginArray();
+        writer.String(sight.form);
+        writer.String(sight.what);
+        std::visit([&](const auto& value) { Write(writer, value); }, sight.value);
+        writer.EndArray();
+    });
+    if (const Long beeps = platform_.Display().TakeBeeps()) {
+        writer.Key("beeps");
+        writer.Whole(beeps);
+    }
+    AddGathered(writer, "changed", std::exchange(changed_, {}));
+    AddGathered(writer, "shown", user_.TakeShown(), [&](const Text& form) { writer.String(form); });
 }
 
 } // namespace ostrel::bridge

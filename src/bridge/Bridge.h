@@ -9,6 +9,11 @@
 #include "bridge/JsonText.h"
 #include "bridge/Members.h"
 #include "control/OstrelWebHelp.h"
+#include "ui/ScriptedUser.h"
+
+namespace ostrel {
+struct Child;
+}
 
 namespace ostrel::bridge {
 
@@ -17,7 +22,7 @@ namespace ostrel::bridge {
 class Bridge {
 public:
     /// Makes a control with `InitProperties` run, on a platform of its own.
-    explicit Bridge(Platform& platform);
+    explicit Bridge(HeadlessPlatform& platform);
     /// Terminates the control.
     ~Bridge();
     Bridge(const Bridge&) = delete;
@@ -38,6 +43,7 @@ private:
     void CarryOut(const Json& request, CallAnswer& answer);
     void CarryOutNested(const Json& request);
     std::string Compose(const std::string& id, const CallAnswer& answer, bool quiet);
+    void AddScreen(JsonWriter& writer);
 
     void MakeControl();
     void EndControl();
@@ -47,9 +53,28 @@ private:
     void Set(const Json& request, CallAnswer& answer);
     void On(const Json& request, CallAnswer& answer);
     void Off(const Json& request, CallAnswer& answer);
+    void QueueUser(const Json& request, CallAnswer& answer);
+    void ResizeControl(const Json& request, CallAnswer& answer);
+    void Press(const Json& request, CallAnswer& answer);
+    void Type(const Json& request, CallAnswer& answer);
+    void Look(const Json& request, CallAnswer& answer);
+    void Mouse(const Json& request, CallAnswer& answer);
+    void Pane(const Json& request, CallAnswer& answer);
+    void Browser(const Json& request, CallAnswer& answer);
+    void Advance(const Json& request, CallAnswer& answer);
+    void UseClipboard(const Json& request, CallAnswer& answer);
+    void SizeScreen(const Json& request, CallAnswer& answer);
+    void Ticks(const Json& request, CallAnswer& answer);
+    void Renew(const Json& request, CallAnswer& answer);
     void Describe(const Json& request, CallAnswer& answer);
 
-    Platform& platform_;
+    /// A visual child of the control; a Refusal where there is none of that name.
+    const Child& ChildOf(const Text& name) const;
+    /// The clock that can be moved; a Refusal where time is real.
+    VirtualClock& Time() const;
+
+    HeadlessPlatform& platform_;
+    ScriptedUser user_;
     EventDesk events_;
     /// The inside of a JSON array of the names given to `PropertyChanged`.
     std::string changed_;

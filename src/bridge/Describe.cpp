@@ -1,4 +1,5 @@
 #include "bridge/Bridge.h"
+#include "bridge/Forms.h"
 #include "bridge/Refusal.h"
 #include "bridge/Values.h"
 #include "control/PropertyTable.h"
@@ -7,28 +8,26 @@ namespace ostrel::bridge {
 
 namespace {
 
-void DescribeMembers(JsonWriter& writer) {
-    for (const Member& member : AllMembers()) {
+void DescribeMember(JsonWriter& writer, const Member& member) {
+    writer.BeginObject();
+    writer.Key("name");
+    writer.Utf8(member.name);
+    writer.Key("result");
+    writer.Utf8(member.result);
+    writer.Key("args");
+    writer.BeginArray();
+    for (const Argument& argument : member.arguments) {
         writer.BeginObject();
         writer.Key("name");
-        writer.Utf8(member.name);
-        writer.Key("result");
-        writer.Utf8(member.result);
-        writer.Key("args");
-        writer.BeginArray();
-        for (const Argument& argument : member.arguments) {
-            writer.BeginObject();
-            writer.Key("name");
-            writer.Utf8(argument.name);
-            writer.Key("kind");
-            writer.Utf8(argument.kind);
-            writer.Key("out");
-            writer.Flag(argument.out);
-            writer.EndObject();
-        }
-        writer.EndArray();
+        writer.Utf8(argument.name);
+        writer.Key("kind");
+        writer.Utf8(argument.kind);
+        writer.Key("out");
+        writer.Flag(argument.out);
         writer.EndObject();
     }
+    writer.EndArray();
+    writer.EndObject();
 }
 
 void DescribeProperties(JsonWriter& writer) {
@@ -66,6 +65,21 @@ void DescribeEvents(JsonWriter& writer, const Events& events) {
     }
 }
 
+void DescribeForms(JsonWriter& writer) {
+    for (const FormRow& form : AllForms()) {
+        writer.BeginObject();
+        writer.Key("name");
+        writer.String(form.name);
+        writer.Key("caption");
+        writer.String(form.caption);
+        writer.Key("controls");
+        writer.BeginArray();
+        for (const Text& control : form.controls) writer.String(control);
+        writer.EndArray();
+        writer.EndObject();
+    }
+}
+
 } // namespace
 
 void Bridge::Describe(const Json& request, CallAnswer& answer) {
@@ -75,7 +89,8 @@ void Bridge::Describe(const Json& request, CallAnswer& answer) {
     writer.BeginObject();
     writer.Key("members");
     writer.BeginArray();
-    DescribeMembers(writer);
+    for (const Family& family : Families())
+        for (const Member& member : family.members) DescribeMember(writer, member);
     writer.EndArray();
     writer.Key("properties");
     writer.BeginArray();
@@ -84,6 +99,10 @@ void Bridge::Describe(const Json& request, CallAnswer& answer) {
     writer.Key("events");
     writer.BeginArray();
     DescribeEvents(writer, web_->events);
+    writer.EndArray();
+    writer.Key("forms");
+    writer.BeginArray();
+    DescribeForms(writer);
     writer.EndArray();
     writer.EndObject();
 }

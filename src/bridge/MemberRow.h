@@ -159,10 +159,7 @@ private:
         if constexpr (std::is_void_v<Result>) {
             (web.*Function)(std::get<I>(values).Pass()...);
         } else {
-            const Result given = (web.*Function)(std::get<I>(values).Pass()...);
-            answer.result.clear();
-            JsonWriter writer(answer.result);
-            Write(writer, given);
+            answer.Give((web.*Function)(std::get<I>(values).Pass()...));
         }
         JsonWriter writer(answer.out);
         [[maybe_unused]] const auto write = [&](const Argument& argument, const auto& held) {

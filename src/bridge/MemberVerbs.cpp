@@ -43,10 +43,7 @@ void Bridge::Get(const Json& request, CallAnswer& answer) {
     const std::string& name = NameIn(request, "get", "a property");
     if (const PropertyRow* row = FindProperty(name)) {
         const PropertyValue value = row->get(*web_, IndexIn(request, *row));
-        answer.result.clear();
-        JsonWriter writer(answer.result);
-        std::visit([&](const auto& held) { Write(writer, held); }, value);
-        return;
+        return std::visit([&](const auto& held) { answer.Give(held); }, value);
     }
     const Member* member = FindMember(name);
     if (!member || !member->ReadsLikeProperty()) RefuseUnknown("Property", name);

@@ -7,23 +7,29 @@
 
 namespace ostrel::bridge {
 
-std::span<const Member> AllMembers() {
-    static const std::vector<Member> all = [] {
-        std::vector<Member> members;
-        for (auto family : {TextMembers, ElementMembers, TableMembers, PageMembers, TagMembers, FileMembers,
-                            SettingsMembers, MessageMembers}) {
-            std::vector<Member> rows = family();
-            members.insert(members.end(), rows.begin(), rows.end());
-        }
-        return members;
-    }();
-    return all;
+std::span<const Family> Families() {
+    static const std::vector<Family> families{
+        {"Text", TextMembers()},
+        {"Elements of HTML", ElementMembers()},
+        {"Tables", TableMembers()},
+        {"Pages", PageMembers()},
+        {"Tags and content", TagMembers()},
+        {"Paths and files", FileMembers()},
+        {"Sorts and settings", SettingsMembers()},
+        {"Browser pane", BrowserMembers()},
+        {"Progress panel and clock", ProgressMembers()},
+        {"Help pages", HelpMembers()},
+        {"Toolbar", ToolbarMembers()},
+        {"Messages, waits and small formatters", MessageMembers()},
+    };
+    return families;
 }
 
 const Member* FindMember(std::string_view name) {
     static const std::unordered_map<std::string_view, const Member*> byName = [] {
         std::unordered_map<std::string_view, const Member*> map;
-        for (const Member& member : AllMembers()) map.emplace(member.name, &member);
+        for (const Family& family : Families())
+            for (const Member& member : family.members) map.emplace(member.name, &member);
         return map;
     }();
     const auto hit = byName.find(name);

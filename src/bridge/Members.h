@@ -28,6 +28,14 @@ struct Argument {
 struct CallAnswer {
     std::string result = "null";
     std::string out;
+
+    /// Any value that `Write` knows.
+    template <class T>
+    void Give(const T& value) {
+        result.clear();
+        JsonWriter writer(result);
+        Write(writer, value);
+    }
 };
 
 /// One member of the component by name.
@@ -42,8 +50,14 @@ struct Member {
     bool ReadsLikeProperty() const { return arguments.empty() && result != "none"; }
 };
 
-/// All members, in the order of their families.
-std::span<const Member> AllMembers();
+/// Members that belong together.
+struct Family {
+    std::string_view title;
+    std::vector<Member> members;
+};
+
+/// All members.
+std::span<const Family> Families();
 /// The member of that exact name, or null.
 const Member* FindMember(std::string_view name);
 

@@ -15,6 +15,10 @@ std::vector<Member> PageMembers();
 std::vector<Member> TagMembers();
 std::vector<Member> FileMembers();
 std::vector<Member> SettingsMembers();
+std::vector<Member> BrowserMembers();
+std::vector<Member> ProgressMembers();
+std::vector<Member> HelpMembers();
+std::vector<Member> ToolbarMembers();
 std::vector<Member> MessageMembers();
 
 } // namespace ostrel::bridge

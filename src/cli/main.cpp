@@ -1,0 +1,21 @@
+#include <CLI/CLI.hpp>
+
+#include "cli/CallCommand.h"
+#include "cli/ReferenceCommand.h"
+
+int main(int argc, char** argv) {
+    CLI::App app("Reports, help pages and the many services of OstrelWebHelp from the command line.",
+                 "ostrel");
+    app.require_subcommand(1);
+    app.set_version_flag("--version", "0.1.0");
+    int status = 0;
+    ostrel::cli::AddCallCommand(app, status);
+    ostrel::cli::AddReferenceCommand(app, status);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        // Wrong usage is 2; asking for help is a success.
+        return app.exit(error) == 0 ? 0 : 2;
+    }
+    return status;
+}
