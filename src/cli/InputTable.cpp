@@ -34,6 +34,7 @@ void ReadCsvTable(ByteSource& source, const CsvFormat& format, bool header, Inpu
     std::size_t count = 0;
     if (!reader.ReadRecord(count)) throw InputError(source.Name() + " holds no text.");
     const std::size_t columns = count;
+    table.place = source.Name() + ", line " + std::to_string(reader.RecordLine());
     if (header) {
         TakeHeader(table);
         if (!reader.ReadRecord(count))

@@ -141,6 +141,7 @@ bool IsSqliteFile(const std::string& path) {
 void ReadSqliteTable(const std::string& path, const std::string& query, const std::string& tableName,
                      InputTable& table) {
     SqliteQuery run(path);
+    table.place = path;
     run.Prepare(query.empty() ? QueryOfTable(run, tableName) : query);
     const int columns = sqlite3_column_count(run.Row());
     if (static_cast<std::size_t>(columns) > CsvReader::MaxColumns)

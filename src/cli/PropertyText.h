@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+#include "control/OstrelWebHelp.h"
+
+namespace ostrel::cli {
+
+/// Lets a property by its name and a text: `PageTableBorder=1`, `PageTableColumnHide(3)=True`. The name's
+/// case does not matter. Throws `UsageError`.
+void SetProperty(OstrelWebHelp& web, std::string_view assignment);
+
+} // namespace ostrel::cli

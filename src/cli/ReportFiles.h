@@ -1,0 +1,71 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/Files.h"
+
+namespace ostrel::cli {
+
+/// The files of a report: one directory, which its pages know as the drive "O:". Nothing is written anywhere
+/// else, the input is never written over, and what the directory itself is called does not matter to the
+/// names of the pages.
+class ReportFiles final : public Files {
+public:
+    static constexpr TextView Drive = "O:\\";
+
+    /// `input` is the system's path of the input, "-" for none.
+    ReportFiles(std::unique_ptr<Files> native, const std::string& input);
+    ~ReportFiles() override;
+
+    /// Makes the directory where it is missing. The sentence of what is wrong with it, empty where it can be
+    /// written.
+    std::string Enter(const std::string& directory);
+    /// What would be wrong with it, found out without making anything.
+    static std::string Trouble(const std::string& directory);
+
+    /// Why the last write failed.
+    const Text& LastReason() const { return lastReason_; }
+    /// `name`, a file's name in the report's directory, is the input itself.
+    bool IsInput(const std::string& directory, const Text& name) const;
+    /// A text in which the drive stands, such as a message, with the directory in its place.
+    std::string Shown(TextView text) const;
+
+    bool IsFile(const Text& path) override;
+    bool IsDirectory(const Text& path) override;
+    FileResult Size(const Text& path, std::uint64_t& size) override;
+    FileResult Written(const Text& path, Date& when) override;
+    FileResult Read(const Text& path, Text& content) override;
+    FileResult Open(const Text& path, std::unique_ptr<FileReader>& reader) override;
+    FileResult Replace(const Text& path, std::span<const TextView> pieces, const Text& backup) override;
+    FileResult Delete(const Text& path) override;
+    FileResult Rename(const Text& from, const Text& to) override;
+    FileResult ClearAttributes(const Text& path) override;
+    FileResult MakeDirectory(const Text& path) override;
+    FileResult ChangeDirectory(const Text& path) override;
+    FileResult ChangeDrive(const Text& drive) override;
+    Text CurrentDirectory() override { return Text(Drive); }
+    std::vector<Text> List(const Text& mask) override;
+    Text TemporaryDirectory() override { return {}; }
+    FileResult MakeTemporary(const Text& prefix, Text& path) override;
+    Text ApplicationDirectory() override { return native_->ApplicationDirectory(); }
+    Text SystemErrorText(Long number) override { return native_->SystemErrorText(number); }
+
+private:
+    struct Identity {
+        std::uint64_t device, number;
+        bool operator==(const Identity&) const = default;
+    };
+    static std::optional<Identity> IdentityOf(const std::string& path);
+    std::optional<Text> Inside(const Text& path) const;
+
+    std::unique_ptr<Files> native_;
+    std::optional<Identity> input_;
+    std::string directory_; ///< as the user wrote it
+    std::string system_;    ///< a system path of it, in ASCII, with a slash behind
+    Text base_;             ///< the same for the native files
+    int handle_ = -1;
+    Text lastReason_;
+};
+
+} // namespace ostrel::cli
