@@ -7,16 +7,15 @@ namespace ostrel::cli {
 
 namespace {
 
-constexpr std::size_t ChunkBytes = std::size_t{1} << 20;
 constexpr std::uint8_t Stops = 0x80; ///< beside the traits: a byte at which a scan ends
 
 unsigned char Unsigned(char c) { return static_cast<unsigned char>(c); }
 
 } // namespace
 
-CsvReader::CsvReader(ByteSource& source, CsvFormat format, CellStore& cells)
-    : source_(source), format_(format), cells_(cells),
-      buffer_(std::make_unique_for_overwrite<char[]>(ChunkBytes + 1)) {
+CsvReader::CsvReader(ByteSource& source, CsvFormat format, CellStore& cells, std::size_t chunk)
+    : source_(source), format_(format), cells_(cells), chunk_(chunk),
+      buffer_(std::make_unique_for_overwrite<char[]>(chunk + 1)) {
     at_ = end_ = buffer_.get();
     Begin();
     plainKinds_ = quotedKinds_ = TraitsOfByte;
@@ -27,8 +26,8 @@ CsvReader::CsvReader(ByteSource& source, CsvFormat format, CellStore& cells)
 void CsvReader::Begin() {
     // A pipe may give its first bytes one by one; the marks and the delimiter want more.
     std::size_t size = 0;
-    while (size < ChunkBytes) {
-        const std::size_t count = source_.Read(buffer_.get() + size, ChunkBytes - size);
+    while (size < chunk_) {
+        const std::size_t count = source_.Read(buffer_.get() + size, chunk_ - size);
         if (count == 0) break;
         size += count;
     }
@@ -47,7 +46,7 @@ void CsvReader::Begin() {
 }
 
 bool CsvReader::Fill() {
-    const std::size_t count = source_.Read(buffer_.get(), ChunkBytes);
+    const std::size_t count = source_.Read(buffer_.get(), chunk_);
     at_ = buffer_.get();
     end_ = at_ + count;
     buffer_[count] = '\0';

@@ -29,8 +29,8 @@ public:
     static constexpr std::size_t MaxValueBytes = std::size_t{64} << 20;
     static constexpr std::size_t MaxColumns = 10'000;
 
-    /// Throws `InputError` where the input is not text.
-    CsvReader(ByteSource& source, CsvFormat format, CellStore& cells);
+    /// Reads `chunk` bytes at a time. Throws `InputError` where the input is empty or UTF-16.
+    CsvReader(ByteSource& source, CsvFormat format, CellStore& cells, std::size_t chunk = 1 << 20);
 
     /// Reads one record; its cells are the last of the store. False at the end of the input. `count` tells
     /// how many. Throws `InputError`.
@@ -61,6 +61,7 @@ private:
     CsvFormat format_;
     CellStore& cells_;
     CellTraits plainKinds_{}, quotedKinds_{};
+    std::size_t chunk_;
     std::unique_ptr<char[]> buffer_;
     const char* at_ = nullptr;
     const char* end_ = nullptr; ///< a NUL stands there, which stops every scan

@@ -15,8 +15,8 @@ namespace {
 
 const PropertyRow* FindIgnoringCase(std::string_view name) {
     const auto rows = AllProperties();
-    const auto hit =
-        std::find_if(rows.begin(), rows.end(), [&](const PropertyRow& row) { return EqualText(row.name, name); });
+    const auto hit = std::find_if(rows.begin(), rows.end(),
+                                  [&](const PropertyRow& row) { return EqualText(row.name, name); });
     return hit == rows.end() ? nullptr : &*hit;
 }
 

@@ -153,7 +153,8 @@ void CheckPageNames(const InputTable& table, const OstrelWebHelp& web) {
         if (!web.PageTableColumnSort(column) || web.PageTableColumnHide(column)) continue;
         const Text& name = table.names[i];
         const auto bad = std::find_if(name.begin(), name.end(), [](char c) {
-            return static_cast<unsigned char>(c) < 32 || std::string_view("/\\:*?\"<>|#%&").find(c) != std::string_view::npos;
+            return static_cast<unsigned char>(c) < 32 ||
+                   std::string_view("/\\:*?\"<>|#%&").find(c) != std::string_view::npos;
         });
         if (bad != name.end())
             throw InputError(table.place + ": the column name [" + ToUtf8(name) +
@@ -161,8 +162,8 @@ void CheckPageNames(const InputTable& table, const OstrelWebHelp& web) {
         Text word = ReplaceAll(ReplaceAll(name, "_", ""), " ", "");
         if (word.empty()) word = FromLong(column);
         if (!pages.emplace(word, i).second)
-            throw InputError(table.place + ": two columns would share the pages of the name [" + ToUtf8(word) +
-                             "].");
+            throw InputError(table.place + ": two columns would share the pages of the name [" +
+                             ToUtf8(word) + "].");
     }
 }
 

@@ -73,7 +73,8 @@ bool ReportFiles::IsInput(const std::string& directory, const Text& name) const 
 }
 
 std::string ReportFiles::Shown(TextView text) const {
-    return ToUtf8(text.find(Drive) == TextView::npos ? Text(text) : ReplaceAll(text, Drive, directory_ + "/"));
+    return ToUtf8(text.find(Drive) == TextView::npos ? Text(text)
+                                                     : ReplaceAll(text, Drive, directory_ + "/"));
 }
 
 /// The native path of a name on the drive; nothing for whatever lies elsewhere.

@@ -17,7 +17,8 @@ constexpr const char* DefaultHeaderColour = "#DCE4EE";
 constexpr const char* DefaultTotalColour = "#EDF1F6";
 constexpr const char* DefaultRowColour = "#F5F7FA";
 constexpr const char* DefaultLinkColour = "#1F5FA8";
-constexpr const char* DefaultFont = "\"Segoe UI\", \"Helvetica Neue\", Helvetica, Arial, \"Liberation Sans\", sans-serif";
+constexpr const char* DefaultFont =
+    "\"Segoe UI\", \"Helvetica Neue\", Helvetica, Arial, \"Liberation Sans\", sans-serif";
 
 /// A word that goes into attributes and style sheets, where quotes and brackets would do harm.
 Text SafeWord(const std::string& option, const std::string& word) {
@@ -34,8 +35,9 @@ Text StyleSheet(const Text& font, const Text& headerColour, const Text& linkColo
     style += "table { margin: 1.2em 0; font: inherit; font-variant-numeric: tabular-nums; "
              "border-collapse: collapse; }\r\n";
     style += "td { padding: 0.3em 0.8em; vertical-align: top; border-bottom: 1px solid #E1E6EC; }\r\n";
-    style += "td[bgcolor=\"" + headerColour +
-             "\"] { position: sticky; top: 0; vertical-align: bottom; border-bottom: 1px solid #A9B6C6; }\r\n";
+    style +=
+        "td[bgcolor=\"" + headerColour +
+        "\"] { position: sticky; top: 0; vertical-align: bottom; border-bottom: 1px solid #A9B6C6; }\r\n";
     if (striped)
         style += Text("tr:nth-child(odd) td:not([bgcolor]) { background: ") + DefaultRowColour + "; }\r\n";
     style += "tr:hover td:not([bgcolor]) { background: #E9F1FB; }\r\n";
@@ -96,8 +98,8 @@ void AddHeaderLinks(const ReportOptions& options, OstrelWebHelp& web) {
         Text error;
         // A name with a target goes out as it stands, one without through the encoding of special characters.
         const std::string name = word.substr(0, equals);
-        if (!web.PageTableHeaderLinksAdd(link.empty() ? PlainArgument(name) : HtmlArgument(name), link, error, "",
-                                         false, 0, 1))
+        if (!web.PageTableHeaderLinksAdd(link.empty() ? PlainArgument(name) : HtmlArgument(name), link, error,
+                                         "", false, 0, 1))
             throw UsageError("--header-link " + word + ": " + error);
     }
     if (!options.headerLinks.empty()) web.PageTableHeaderLinksShow(true, false, false, options.repeatHeader);
@@ -115,8 +117,7 @@ void ApplyLook(const ReportOptions& options, OstrelWebHelp& web) {
     } else {
         ApplyDefaultLook(options, web);
     }
-    if (!options.background.empty())
-        web.PageBackgroundColour(SafeWord("--background", options.background));
+    if (!options.background.empty()) web.PageBackgroundColour(SafeWord("--background", options.background));
     ApplyPattern(options, web);
     if (options.border >= 0) web.PageTableBorder(options.border);
     web.PageTableHeaderRepeat(options.repeatHeader);

@@ -10,8 +10,9 @@ const std::string Colour = "COLOUR";
 
 void DeclareReading(CLI::App& command, ReportOptions& options) {
     const std::string group = "Reading";
-    command.add_option("--delimiter", options.delimiter,
-                       "Character between values, or comma, semicolon, tab, pipe; found out where not given")
+    command
+        .add_option("--delimiter", options.delimiter,
+                    "Character between values, or comma, semicolon, tab, pipe; found out where not given")
         ->group(group);
     command
         .add_option("--encoding", options.encoding,
@@ -32,14 +33,16 @@ void DeclareReading(CLI::App& command, ReportOptions& options) {
 
 void DeclarePages(CLI::App& command, ReportOptions& options) {
     const std::string group = "Pages";
-    command.add_option("--title", options.title, "Title of every page; the name of the input where not given")
+    command
+        .add_option("--title", options.title, "Title of every page; the name of the input where not given")
         ->group(group);
     command.add_option("--sub-title", options.subTitle, "Line under the title; \"\" for none")->group(group);
     command.add_option("--footer", options.footer, "Paragraph at the foot of every page")->group(group);
     command.add_option("--name", options.name, "Name of the main page without its extension")->group(group);
     command.add_flag("--no-sort", options.noSort, "No pages sorted by a column or by record number")
         ->group(group);
-    command.add_flag("--no-records", options.noRecords, "No page for each record (the default)")->group(group);
+    command.add_flag("--no-records", options.noRecords, "No page for each record (the default)")
+        ->group(group);
     command.add_flag("--no-record-numbers", options.noRecordNumbers, "No column of record numbers")
         ->group(group);
     command.add_flag("--no-csv", options.noCsv, "No CSV file beside the page")->group(group);
@@ -65,12 +68,13 @@ CLI::Option* Repeated(CLI::App& command, const std::string& name, std::vector<st
 }
 
 void DeclareColumns(CLI::App& command, ReportOptions& options) {
-    const std::string group = "Columns (COLUMN is a name from the header, or a number from 1; repeat an option "
-                              "for several)";
+    const std::string group =
+        "Columns (COLUMN is a name from the header, or a number from 1; repeat an option "
+        "for several)";
     Repeated(command, "--hide", options.hide, "Do not show the column", "COLUMN", group);
-    auto* sort = Repeated(command, "--sort", options.sort,
-                          "Make sorted pages for this column; all columns have them where not given", "COLUMN",
-                          group);
+    auto* sort =
+        Repeated(command, "--sort", options.sort,
+                 "Make sorted pages for this column; all columns have them where not given", "COLUMN", group);
     command.add_flag("--sort-all", options.sortAll, "Make sorted pages for every column (the default)")
         ->excludes(sort)
         ->group(group);
@@ -88,8 +92,9 @@ void DeclareColumns(CLI::App& command, ReportOptions& options) {
     Repeated(command, "--expose", options.expose,
              "Give each value an anchor NAME.VALUE on the page sorted up, for links from elsewhere", "COLUMN",
              group);
-    command.add_option("--record-column", options.recordColumn,
-                       "Column with record numbers such as 7 or, for the rows of one record, 7.1, 7.2, ...")
+    command
+        .add_option("--record-column", options.recordColumn,
+                    "Column with record numbers such as 7 or, for the rows of one record, 7.1, 7.2, ...")
         ->type_name("COLUMN")
         ->group(group);
     Repeated(command, "--sub-record", options.subRecord, "The column differs from row to row of one record",
@@ -107,12 +112,14 @@ void DeclareTotals(CLI::App& command, ReportOptions& options) {
              "[COLUMN=]FORMAT", group);
     Repeated(command, "--break", options.breaks, "A sub-total wherever the value of this column changes",
              "COLUMN", group);
-    command.add_flag("--sub-totals", options.subTotals, "Sub-totals by value on the sorted pages")->group(group);
+    command.add_flag("--sub-totals", options.subTotals, "Sub-totals by value on the sorted pages")
+        ->group(group);
 }
 
 void DeclareLook(CLI::App& command, ReportOptions& options) {
     const std::string group = "Look";
-    command.add_option("--pattern", options.pattern, "Colours of the body: none, rows, columns, checkers, all")
+    command
+        .add_option("--pattern", options.pattern, "Colours of the body: none, rows, columns, checkers, all")
         ->check(CLI::IsMember({"none", "rows", "columns", "checkers", "all"}, CLI::ignore_case))
         ->group(group);
     command.add_option("--row-colours,--row-colors", options.rowColours, "The two colours of the pattern")
@@ -140,7 +147,8 @@ void DeclareLook(CLI::App& command, ReportOptions& options) {
         ->group(group);
     command.add_flag("--skip-blank-columns", options.skipBlankColumns, "Leave out columns without a value")
         ->group(group);
-    command.add_flag("--repeat-header", options.repeatHeader, "The header again below the table")->group(group);
+    command.add_flag("--repeat-header", options.repeatHeader, "The header again below the table")
+        ->group(group);
     Repeated(command, "--header-link", options.headerLinks,
              "A link above the table; a NAME of Excel, Top or Bottom alone leads there", "NAME[=URL]", group);
     Repeated(command, "--set", options.set,
@@ -165,9 +173,7 @@ understood; 130 interrupted by Ctrl-C.)";
 } // namespace
 
 void DeclareReportOptions(CLI::App& command, ReportOptions& options) {
-    command
-        .add_option("INPUT", options.input,
-                    "CSV file, SQLite database, or - for CSV from standard input")
+    command.add_option("INPUT", options.input, "CSV file, SQLite database, or - for CSV from standard input")
         ->required()
         ->type_name("");
     command.add_option("-o,--output", options.directory, "Directory of the pages; made where it is missing")

@@ -5,10 +5,10 @@
 
 #include "cli/InputError.h"
 #include "cli/Interrupt.h"
+#include "cli/PropertyText.h"
 #include "cli/ReportColumns.h"
 #include "cli/ReportLook.h"
 #include "cli/StopClock.h"
-#include "cli/PropertyText.h"
 #include "cli/Usage.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
@@ -68,12 +68,13 @@ CsvFormat FormatOf(const ReportOptions& options) {
         format.encoding = TextEncoding::Utf8;
     else if (!EqualText(options.encoding, "auto"))
         format.encoding = TextEncoding::Windows1252;
-    const std::pair<std::string_view, char> words[] = {
-        {"comma", ','}, {"semicolon", ';'}, {"tab", '\t'}, {"\\t", '\t'}, {"pipe", '|'}, {"blank", ' '}};
+    const std::pair<std::string_view, char> words[] = {{"comma", ','}, {"semicolon", ';'}, {"tab", '\t'},
+                                                       {"\\t", '\t'},  {"pipe", '|'},      {"blank", ' '}};
     for (const auto& [word, character] : words)
         if (EqualText(options.delimiter, word)) format.delimiter = character;
     if (format.delimiter || options.delimiter.empty()) return format;
-    if (options.delimiter.size() != 1 || std::string_view("\"\r\n").find(options.delimiter[0]) != std::string_view::npos ||
+    if (options.delimiter.size() != 1 ||
+        std::string_view("\"\r\n").find(options.delimiter[0]) != std::string_view::npos ||
         static_cast<unsigned char>(options.delimiter[0]) >= 0x80)
         throw UsageError("--delimiter " + options.delimiter +
                          ": it must be one character, or comma, semicolon, tab or pipe.");
@@ -189,8 +190,7 @@ void ReportRun::Listen() {
         progress_.Show(ToUtf8(message) + (records > 0 ? " " + std::to_string(records) : ""));
     });
     events.SortProgress.Listen([this](Text&, Long&) { PassOnStop(); });
-    events.PageCreateTableTitle.Listen(
-        [this](Text&, Text&, Text&, Text&, Flag&, Long&) { PassOnStop(); });
+    events.PageCreateTableTitle.Listen([this](Text&, Text&, Text&, Text&, Flag&, Long&) { PassOnStop(); });
     events.PageCreated2.Listen([this](Text& path, Flag& isNew, Flag& failed, Long& bytes) {
         PassOnStop();
         PageDone(path, isNew, failed, bytes);
@@ -212,8 +212,8 @@ int ReportRun::MakePages() {
     for (ColumnType type : table_.types) right.Append(type != ColumnType::Text);
     const CellTable cells(table_.cells.Cells(), table_.rows, table_.Columns());
     Text message;
-    const bool made =
-        web_->PageCreateTableFrom(Text(ReportFiles::Drive) + page_, TitleText(), names, right, cells, message);
+    const bool made = web_->PageCreateTableFrom(Text(ReportFiles::Drive) + page_, TitleText(), names, right,
+                                                cells, message);
     progress_.Clear();
     return Tell(made, message);
 }
