@@ -13,6 +13,7 @@ namespace ostrel::cli {
 struct InputTable {
     explicit InputTable(Markup markup) : cells(markup) {}
 
+    std::string place;          ///< where the names stand, for messages
     std::vector<Text> names;    ///< plain
     std::vector<Text> nameHtml; ///< the same as a browser shows them
     std::vector<ColumnType> types;
