@@ -10,6 +10,8 @@
 #include "cli/ReportLook.h"
 #include "cli/StopClock.h"
 #include "cli/Usage.h"
+#include "platform/headless/HeadlessPlatform.h"
+#include "platform/native/NativePlatform.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
 
@@ -146,7 +148,8 @@ void ReportRun::SetUp() {
     page_ = PageName() + PageExtension;
     auto files = std::make_unique<ReportFiles>(MakeNativeFiles(), options_.input);
     files_ = files.get();
-    platform_ = MakeHeadlessPlatform();
+    platform_ = MakeHeadlessPlatform(false);
+    platform_.pane.reset(); // a report shows nothing
     platform_.files = std::move(files);
     platform_.clock = std::make_unique<StopClock>(std::move(platform_.clock), [this] { PassOnStop(); });
     web_ = std::make_unique<OstrelWebHelp>(platform_);
