@@ -29,6 +29,15 @@ struct HeaderLinks {
     Array<Format> formats;
     std::array<Flag, 4> show{}; ///< above, below, above the repeated header, below it
     Text firstName, previousName, nextName, lastName, allName;
+
+    /// False with a sentence at the 101st link. `link.positions` is masked; none of the four means all.
+    bool Add(Link link, Text& error);
+    /// False at the 51st format.
+    bool AddFormat(Format format);
+    /// Drops links and formats; links show below the top header and above the repeated one.
+    void Clear();
+    /// The highest row of any link, at least 1; 0 without links.
+    Long MaxRow() const;
 };
 
 } // namespace ostrel

@@ -2,12 +2,6 @@
 
 namespace ostrel::tablepages {
 
-void ClearHeaderLinks(HeaderLinks& links) {
-    links.links.Clear();
-    links.formats.Clear();
-    links.show = {false, true, true, false};
-}
-
 void ResetTable(TableOptions& options, HeaderLinks& links) {
 #define PROPERTY(kind, name, fallback, flags, doc) options.name = kind{fallback};
 #define CUSTOM(kind, name, fallback, flags, doc)
@@ -16,7 +10,7 @@ void ResetTable(TableOptions& options, HeaderLinks& links) {
 #undef PROPERTY
 #undef CUSTOM
 #undef INDEXED
-    ClearHeaderLinks(links);
+    links.Clear();
     links.firstName = "First";
     links.previousName = "Previous";
     links.nextName = "Next";

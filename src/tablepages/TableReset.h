@@ -5,8 +5,6 @@
 
 namespace ostrel::tablepages {
 
-/// Drops all header links and their formats; links show below the top header and above the repeated one.
-void ClearHeaderLinks(HeaderLinks& links);
 /// The table's own part of `PageReset`: every option to its default, no header links, the usual names of the
 /// navigation.
 void ResetTable(TableOptions& options, HeaderLinks& links);

@@ -1,0 +1,88 @@
+#include "tablepages/HeaderTexts.h"
+
+#include "html/Elements.h"
+#include "html/PageParts.h"
+#include "services/Paths.h"
+#include "services/TagText.h"
+#include "text/CodePage.h"
+#include "text/Enumerations.h"
+#include "text/NumberText.h"
+
+namespace ostrel::tablepages {
+
+namespace {
+
+Text Emphasised(TextView text, bool bold, bool italic) {
+    Text result;
+    if (bold) result += "<B>";
+    if (italic) result += "<I>";
+    result += text;
+    if (italic) result += "</I>";
+    if (bold) result += "</B>";
+    return result;
+}
+
+Text ColumnWord(const ReportFrame& frame, Long column) {
+    Text word;
+    if (frame.options.PageTableOrderUseNames) {
+        word = ReplaceAll(frame.Name(column), "<BR>", "");
+        std::erase(word, '_');
+        std::erase(word, ' ');
+    }
+    return word.empty() ? FromLong(column) : word;
+}
+
+} // namespace
+
+Text SortFileName(const ReportFrame& frame, TextView filePath, Long column, TextView suffix,
+                  TextView anchor) {
+    Text insert = "_";
+    insert.append(ColumnWord(frame, column)).append(suffix).append(".");
+    Text name = ReplaceAll(services::FileName(filePath), ".", insert);
+    if (!anchor.empty()) name.append("#").append(anchor);
+    return name;
+}
+
+Text RecordHeader(const ReportFrame& frame, TextView filePath, TextView toolTip, TextView anchor) {
+    const TableOptions& options = frame.options;
+    if (options.PageTableHeaderRNName.empty()) return {};
+    Text target = services::FileName(filePath);
+    if (!anchor.empty()) target.append("#").append(anchor);
+    const Text name =
+        Emphasised(options.PageTableHeaderRNName, options.PageTableHeaderBold, options.PageTableHeaderItalic);
+    return html::PageFontStartTag(frame.scope.page, owhFontTableHeader) + options.PageTableAddLeft +
+           html::CreateLinkTitle(frame.scope.page, target, name, toolTip, false, false, false) +
+           options.PageTableAddRight + html::PageFontEndTag(frame.scope.page, owhFontTableHeader);
+}
+
+Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool up, TextView anchor) {
+    const TableOptions& options = frame.options;
+    const TextView name = frame.Name(column);
+    const std::size_t end = std::min(FindText(name, "</P>"), name.size());
+    const TextView head = name.substr(0, end), tail = name.substr(end);
+    const bool linked = options.PageTableColumnSort.Get(column);
+
+    Text result;
+    for (std::size_t start = 0; !head.empty() && start != NotFound;) {
+        const std::size_t cut = FindText(head, "<BR>", start);
+        Text line = Emphasised(head.substr(start, cut == NotFound ? NotFound : cut - start),
+                               options.PageTableHeaderBold, options.PageTableHeaderItalic);
+        if (linked)
+            line = html::CreateLinkTitle(
+                frame.scope.page, SortFileName(frame, filePath, column, up ? "_U" : "_D", anchor), line,
+                up ? options.PageTableOrderUpTT : options.PageTableOrderDownTT, false, false, false);
+        if (start > 0) result += "<BR>";
+        result.append(options.PageTableAddLeft).append(line).append(options.PageTableAddRight);
+        start = cut == NotFound ? NotFound : cut + 4;
+    }
+    result += tail;
+    if (result.empty()) return result;
+    return html::PageFontStartTag(frame.scope.page, owhFontTableHeader) + result +
+           html::PageFontEndTag(frame.scope.page, owhFontTableHeader);
+}
+
+Text PlainName(const ReportFrame& frame, Long column) {
+    return services::StripTags(ReplaceAll(frame.Name(column), "<BR>", " "));
+}
+
+} // namespace ostrel::tablepages

@@ -1,0 +1,93 @@
+#include "tablepages/PageCreateTable.h"
+
+#include "html/Elements.h"
+#include "html/PageParts.h"
+#include "services/CsvText.h"
+#include "services/Paths.h"
+#include "services/TagText.h"
+#include "tablepages/HeaderTexts.h"
+#include "tablepages/ReportRun.h"
+#include "text/NumberText.h"
+
+namespace ostrel::tablepages {
+
+namespace {
+
+bool Check(ReportFrame& frame, Text& error) {
+    const TableInput& input = frame.input;
+    if (!input.filePath.empty() &&
+        !html::PageFilePath(frame.scope.page, input.filePath, frame.filePath, error))
+        return false;
+    if (input.rows <= 0) {
+        error = "No Rows in Table";
+        return false;
+    }
+    if (input.columns <= 0) {
+        error = "No Columns in Table";
+        return false;
+    }
+    return true;
+}
+
+bool WriteCsv(ReportFrame& frame, Text& error) {
+    const html::PageScope& page = frame.scope.page;
+    const TableInput& input = frame.input;
+    html::TellProgress(page, "Saving to Excel", 0);
+    frame.csvPath = services::FileExtensionChange(frame.filePath, ".csv");
+    Array<Text> names(input.columns);
+    for (Long column = 1; column <= input.columns; ++column) names.Put(column, PlainName(frame, column));
+    Text plain;
+    const auto cell = [&](Long row, Long column) -> TextView {
+        if (input.cells.HasPlain()) return input.cells.Plain(row, column);
+        services::StripTagsInto(input.cells.Html(row, column), plain);
+        return plain;
+    };
+    Text writeError;
+    if (services::WriteCsvFile(page.context, page.service.ProgramName, frame.csvPath, names, cell, input.rows,
+                               input.columns, writeError, ",", false))
+        return true;
+    error = writeError;
+    return false;
+}
+
+/// The anchor at one end of the page. Only a name that says False means none, so that an empty name gives an
+/// anchor without a name.
+Text EdgeAnchor(const Text& name) {
+    const auto flag = ToFlag(name);
+    return flag && !*flag ? Text() : Text(LineGap) + html::CreateAnchor(name);
+}
+
+bool MakePages(ReportRun& run, Text& error) {
+    ReportFrame& frame = run.frame;
+    const TableOptions& options = frame.options;
+    const html::PageScope& page = run.Scope();
+    if (options.PageTableAddExcel && !WriteCsv(frame, error)) return false;
+
+    frame.footText = EdgeAnchor(page.page.PageAnchorBottom);
+    frame.headText = EdgeAnchor(page.page.PageAnchorTop);
+    run.createAll = options.PageTableCreateAll;
+    html::TellProgress(page, "Starting", 0);
+
+    const bool downPage = !frame.filePath.empty() && options.PageTableRecordNumber &&
+                          !options.PageTableHeaderRNName.empty() && options.PageTableRecordNumberSort;
+    if (downPage && !MakeMainPage(run, true, error)) return false;
+    if (!MakeMainPage(run, false, error)) return false;
+    if (frame.filePath.empty()) return true;
+
+    html::TellProgress(page, "Finished", 0);
+    return true;
+}
+
+} // namespace
+
+bool PageCreateTable(const TableScope& scope, const TableInput& input, Text& error) {
+    scope.page.context.run.StopPressed = false;
+    ReportRun run(scope, input);
+    if (!Check(run.frame, error)) return false;
+    scope.separate = {};
+    const bool made = MakePages(run, error);
+    scope.separate.fields = 0;
+    return made;
+}
+
+} // namespace ostrel::tablepages

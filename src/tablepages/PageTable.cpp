@@ -1,0 +1,33 @@
+#include "tablepages/PageTable.h"
+
+#include "html/PageParts.h"
+#include "tablepages/TitleBlock.h"
+#include "text/Enumerations.h"
+
+namespace ostrel::tablepages {
+
+void PageTable::Build(const html::PageScope& page, const TableOptions& options, Long columns, bool empty,
+                      const Fill& fill) {
+    page.help.HelpPart2.Clear();
+    // The body of the main page may still stand in the buffer.
+    if (!buffer_ || buffer_.use_count() > 1) buffer_ = std::make_shared<LargeBuffer>();
+    buffer_->Clear();
+
+    const Text font = html::PageFontStartTag(page, owhFontTable);
+    if (!empty && columns > 0) {
+        html::TableLook look;
+        look.spaceColumns = options.PageTableSpace;
+        look.font = font.empty() ? page.help.HelpFont : font;
+        look.tableTags = TableTags(options);
+        look.spaceCellHTML = options.PageTableSpaceHTML;
+        html::TableWriter table(page.context, *buffer_, columns, look);
+        fill(table);
+        table.End();
+    }
+    Rope part(font);
+    part.Append(buffer_, buffer_->View());
+    part.Append(html::PageFontEndTag(page, owhFontTable));
+    page.help.HelpPart2 = std::move(part);
+}
+
+} // namespace ostrel::tablepages

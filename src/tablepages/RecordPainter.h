@@ -1,0 +1,67 @@
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "html/TableWriter.h"
+#include "tablepages/CellTexts.h"
+#include "tablepages/MainTable.h"
+
+namespace ostrel::tablepages {
+
+/// Writes the rows of a table straight from the source cells: texts, tags and colours. What the cells of a
+/// column have in common is worked out once.
+class RecordPainter {
+public:
+    RecordPainter(const ReportFrame& frame, const MainTable& main);
+
+    /// Writes the row at a place of the main table; `record` decides its colours. The columns that stay the
+    /// same within a record are taken from the place `first`.
+    void Paint(html::TableWriter& table, Long place, Long first, Long record);
+    void Paint(html::TableWriter& table, const GridRow& row);
+    void Paint(html::TableWriter& table, const GridRows& rows) {
+        for (const GridRow& row : rows) Paint(table, row);
+    }
+
+    /// The text of one cell of the main table, good until the next call.
+    CellTexts::Pieces CellText(Long place, Long gridColumn);
+    CellTexts& Texts() { return texts_; }
+    /// Puts a text in front of the cells of one column in the rows that follow.
+    void Expose(Long gridColumn, Text prefix);
+
+private:
+    using Tags = std::array<std::array<const html::TagInfo*, 2>, 2>; // [filled][odd record]
+
+    struct Column {
+        Long source = 0;
+        Long grid = 0;
+        bool ofRecord = true; ///< the same in all rows of a record
+        CellRules::Placement placement;
+        Text width;        ///< stated by the first filled cell
+        Long widthRow = 0; ///< the source row of that cell
+        Tags plain{};      ///< of cells without tags of their own
+        TextView given;    ///< the tags met last, and what came of them
+        Tags ofGiven{};
+    };
+
+    html::CellView DataCell(Column& column, Long place, Long record);
+    html::CellView TextCell(const Column& column, const GridRow& row, Long record);
+    const html::TagInfo* DataTag(Column& column, TextView given, bool filled, Long record);
+    Tags MakeTags(html::TagTable& table, const Column& column, TextView given) const;
+    Text TagText(const Column& column, TextView given, bool filled, Long record) const;
+    const GridRow& TextRow(Long place);
+
+    const ReportFrame& frame_;
+    const MainTable& main_;
+    CellTexts texts_;
+    std::vector<Column> columns_;
+    std::vector<html::CellView> cells_;
+    html::TagTable kept_, passing_;
+    GridRow textRow_{0};
+    Long textPlace_ = 0;
+    bool textKnown_ = false;
+    Long exposedColumn_ = 0;
+    Text exposed_, exposedBefore_;
+};
+
+} // namespace ostrel::tablepages
