@@ -31,27 +31,15 @@ OstrelWebHelp::~OstrelWebHelp() {
 
 void OstrelWebHelp::Trace(TextView line) { events.StatusTextChange.Tell(Text(line)); }
 
-void OstrelWebHelp::SetDefaults() {
-    for (const PropertyRow& row : AllProperties()) {
-        if (!row.store) continue;
-        for (Long index = row.Indexed() ? 1 : 0; index <= row.limit; ++index)
-            row.store(state_, index, row.fallback);
-    }
-    state_.help.HelpPart1 = state_.help.HelpPart2 = state_.help.HelpPart3 = Rope();
-    state_.help.HelpRefreshURL.clear();
-    state_.help.HelpRefreshTarget.clear();
-    run_.StopPressed = false;
-    if (context_.platform.files)
-        state_.service.DirectoryRun = context_.platform.files->ApplicationDirectory();
-}
-
 void OstrelWebHelp::InitProperties() {
     Guarded([&] {
-        SetDefaults();
+        for (const PropertyRow& row : AllProperties()) {
+            if (!row.Indexed()) StoreStraight(row, DefaultOf(row));
+            for (Long index = 1; index <= row.limit; ++index) row.store(state_, index, row.fallback);
+        }
         if (frame_->tmrClock) frame_->tmrClock->Stop();
         html::HelpPageInitialise(state_.help);
         PageReset();
-        if (Pane()) Pane()->Offline(true);
         Children& children = frame_->children;
         children.lblURL.visible = children.cmdURL.visible = children.txtURL.visible = false;
         children.txtURL.text.clear();

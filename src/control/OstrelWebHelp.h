@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <variant>
 
 #include "control/State.h"
 #include "platform/Context.h"
@@ -14,6 +15,9 @@ namespace ostrel {
 class Bag;
 class Children;
 struct ControlFrame;
+struct PropertyRow;
+/// The value of a property, by its kind.
+using PropertyValue = std::variant<Text, Flag, Long, Picture>;
 
 /// What the mouse did over the control.
 enum class MouseAction { Down, Move, Up };
@@ -418,7 +422,9 @@ private:
 
     // Lifecycle
     void Trace(TextView line);
-    void SetDefaults();
+    /// Straight into the property's place, with no let.
+    void StoreStraight(const PropertyRow& row, const PropertyValue& value);
+    PropertyValue DefaultOf(const PropertyRow& row) const;
 
     // Browser pane
     friend class PaneListener;

@@ -2,14 +2,10 @@
 
 #include <span>
 #include <string_view>
-#include <variant>
 
 #include "control/OstrelWebHelp.h"
 
 namespace ostrel {
-
-/// The value of a property, by its kind.
-using PropertyValue = std::variant<Text, Flag, Long, Picture>;
 
 /// One property by name: what its row says, and the ways to it.
 struct PropertyRow {

@@ -5,7 +5,14 @@
 namespace ostrel {
 
 HeadlessPlatform MakeHeadlessPlatform(bool virtualClock) {
+    return MakeHeadlessPlatform(virtualClock, nullptr);
+}
+
+HeadlessPlatform MakeHeadlessPlatform(bool virtualClock, std::unique_ptr<Files> files,
+                                      std::unique_ptr<SettingsStore> settings) {
     HeadlessPlatform platform;
+    platform.files = std::move(files);
+    platform.settings = std::move(settings);
     if (virtualClock)
         platform.clock = std::make_unique<VirtualClock>();
     else

@@ -17,5 +17,8 @@ struct HeadlessPlatform : Platform {
 };
 
 HeadlessPlatform MakeHeadlessPlatform(bool virtualClock);
+/// Over files and settings of the caller's choice; null settings for none.
+HeadlessPlatform MakeHeadlessPlatform(bool virtualClock, std::unique_ptr<Files> files,
+                                      std::unique_ptr<SettingsStore> settings = nullptr);
 
 } // namespace ostrel
