@@ -7,6 +7,7 @@
 #include "services/TagText.h"
 #include "tablepages/HeaderTexts.h"
 #include "tablepages/ReportRun.h"
+#include "tablepages/SortPages.h"
 #include "text/NumberText.h"
 
 namespace ostrel::tablepages {
@@ -73,6 +74,7 @@ bool MakePages(ReportRun& run, Text& error) {
     if (downPage && !MakeMainPage(run, true, error)) return false;
     if (!MakeMainPage(run, false, error)) return false;
     if (frame.filePath.empty()) return true;
+    if (!MakeSortPages(run, error)) return false;
 
     html::TellProgress(page, "Finished", 0);
     return true;

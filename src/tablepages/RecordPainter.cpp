@@ -113,19 +113,6 @@ void RecordPainter::Paint(html::TableWriter& table, Long place, Long first, Long
     table.Row(cells_);
 }
 
-void RecordPainter::Paint(html::TableWriter& table, const GridRow& row) {
-    if (passing_.Size() > MostTagsKept) {
-        for (Column& column : columns_) column.given = {};
-        passing_.Clear();
-    }
-    for (Column& column : columns_) {
-        const GridCell* cell = row.Find(column.grid);
-        cells_[static_cast<std::size_t>(column.grid - 1)] =
-            cell ? html::CellView{{}, cell->text, {}, passing_.Intern(cell->tag)} : html::CellView{};
-    }
-    table.Row(cells_);
-}
-
 CellTexts::Pieces RecordPainter::CellText(Long place, Long gridColumn) {
     const Column& column = columns_[static_cast<std::size_t>(gridColumn - 1)];
     if (main_.IsText(place)) {

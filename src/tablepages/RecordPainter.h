@@ -5,6 +5,7 @@
 
 #include "html/TableWriter.h"
 #include "tablepages/CellTexts.h"
+#include "tablepages/GridRowWriter.h"
 #include "tablepages/MainTable.h"
 
 namespace ostrel::tablepages {
@@ -18,9 +19,9 @@ public:
     /// Writes the row at a place of the main table; `record` decides its colours. The columns that stay the
     /// same within a record are taken from the place `first`.
     void Paint(html::TableWriter& table, Long place, Long first, Long record);
-    void Paint(html::TableWriter& table, const GridRow& row);
-    void Paint(html::TableWriter& table, const GridRows& rows) {
-        for (const GridRow& row : rows) Paint(table, row);
+    template <class Rows>
+    void Paint(html::TableWriter& table, const Rows& rows) {
+        writer_.Write(table, rows);
     }
 
     /// The text of one cell of the main table, good until the next call.
@@ -57,6 +58,7 @@ private:
     std::vector<Column> columns_;
     std::vector<html::CellView> cells_;
     html::TagTable kept_, passing_;
+    GridRowWriter writer_;
     GridRow textRow_{0};
     Long textPlace_ = 0;
     bool textKnown_ = false;
