@@ -13,12 +13,22 @@ constexpr TextView Heading = "# Properties of an OstrelWebHelp control\n";
 constexpr TextView PictureWord = "picture ";
 constexpr TextView Separator = " = ";
 
+bool IsPlain(char c) { return c >= 0x20 && c < 0x7F && c != '"' && c != '\\'; }
+
+/// Where the run of characters that stand for themselves ends; values may be megabytes long.
+std::size_t PlainEnd(TextView text, std::size_t from) {
+    while (from < text.size() && IsPlain(text[from])) ++from;
+    return from;
+}
+
 void AppendQuoted(Text& output, TextView text) {
     constexpr TextView Digits = "0123456789ABCDEF";
     output += '"';
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        switch (c) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t end = PlainEnd(text, i);
+        output.append(text, i, end - i);
+        if ((i = end) == text.size()) break;
+        switch (text[i]) {
         case '"':
             output += "\\\"";
             break;
@@ -34,14 +44,12 @@ void AppendQuoted(Text& output, TextView text) {
         case '\t':
             output += "\\t";
             break;
-        default:
-            if (byte >= 0x20 && byte < 0x7F) {
-                output += c;
-            } else {
-                output += "\\x";
-                output += Digits[byte >> 4];
-                output += Digits[byte & 15];
-            }
+        default: {
+            const auto byte = static_cast<unsigned char>(text[i]);
+            output += "\\x";
+            output += Digits[byte >> 4];
+            output += Digits[byte & 15];
+        }
         }
     }
     output += '"';
@@ -61,6 +69,9 @@ std::optional<Text> ParseQuoted(TextView text) {
     Text value;
     value.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t end = PlainEnd(text, i);
+        value.append(text, i, end - i);
+        if ((i = end) == text.size()) break;
         if (text[i] == '"') return std::nullopt;
         if (text[i] != '\\') {
             value += text[i];

@@ -73,7 +73,9 @@ void SetAll(OstrelWebHelp& web) {
 TEST(Persistence, RoundTripOverAllKeysIsTrueToTheByte) {
     ControlBench bench, other(ControlBench::Start::Bare);
     SetAll(*bench.web);
-    bench.web->HelpPart2(Text(10'000'000, '\xE4') + "\r\n=\"");
+    Text huge;
+    while (huge.size() < 10'000'000) huge += "A line of a page that is rather long, and its end \xE4\"\r\n";
+    bench.web->HelpPart2(huge);
     FileBag bag(bench.Files(), "C:\\temp\\control.properties");
     bench.web->WriteProperties(bag);
     EXPECT_EQ(bag.Entries().size(), 250u);

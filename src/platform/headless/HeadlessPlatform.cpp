@@ -5,7 +5,7 @@
 namespace ostrel {
 
 HeadlessPlatform MakeHeadlessPlatform(bool virtualClock) {
-    return MakeHeadlessPlatform(virtualClock, nullptr);
+    return MakeHeadlessPlatform(virtualClock, MakeNativeFiles(), MakeNativeSettings());
 }
 
 HeadlessPlatform MakeHeadlessPlatform(bool virtualClock, std::unique_ptr<Files> files,
@@ -17,8 +17,6 @@ HeadlessPlatform MakeHeadlessPlatform(bool virtualClock, std::unique_ptr<Files> 
         platform.clock = std::make_unique<VirtualClock>();
     else
         platform.clock = MakeNativeClock();
-    platform.files = MakeNativeFiles();
-    platform.settings = MakeNativeSettings();
     platform.screen = std::make_unique<HeadlessScreen>();
     platform.clipboard = std::make_unique<HeadlessClipboard>();
     platform.pane = std::make_unique<HeadlessPane>(*platform.clock, *platform.files);
