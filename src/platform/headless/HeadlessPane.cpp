@@ -54,7 +54,16 @@ void HeadlessPane::Note(Text name, std::vector<std::variant<Text, Long>> argumen
 
 void HeadlessPane::Navigate(const Text& url) {
     Note("Navigate", {url});
-    if (!held_) Start(Way::Plain, url);
+    if (held_) return;
+    if (history_.empty() && !load_ && url == BlankPage) return ShowBlankPage();
+    Start(Way::Plain, url);
+}
+
+void HeadlessPane::ShowBlankPage() {
+    page_ = {.url = Text(BlankPage), .title = NameOf(Text(BlankPage)), .html = {}};
+    history_ = {page_.url};
+    place_ = 0;
+    readyState_ = 4;
 }
 
 void HeadlessPane::Navigate(const Text& url, const Text& target) {

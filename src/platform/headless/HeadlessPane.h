@@ -95,6 +95,8 @@ private:
     using LoadPointer = std::shared_ptr<Load>;
 
     void Note(Text name, std::vector<std::variant<Text, Long>> arguments = {});
+    /// A fresh pane is blank already: to be asked for the blank page tells nothing.
+    void ShowBlankPage();
     void Start(Way way, const Text& url, const Text& target = {}, std::size_t place = 0);
     void Abandon();
     /// Runs the step through the loop, unless the load has been replaced by then.
