@@ -54,11 +54,14 @@ private:
             std::visit(
                 [&](auto* value) {
                     using Value = std::remove_pointer_t<decltype(value)>;
-                    if constexpr (std::is_same_v<Value, Text>) line += *value;
-                    else if constexpr (std::is_same_v<Value, Flag>) line += *value ? "True" : "False";
+                    if constexpr (std::is_same_v<Value, Text>)
+                        line += *value;
+                    else if constexpr (std::is_same_v<Value, Flag>)
+                        line += *value ? "True" : "False";
                     else if constexpr (std::is_arithmetic_v<Value>)
                         line += FromDouble(static_cast<double>(*value));
-                    else line += "...";
+                    else
+                        line += "...";
                 },
                 argument);
         }

@@ -62,10 +62,18 @@ void SetAll(OstrelWebHelp& web) {
     for (const PropertyRow& row : AllProperties()) {
         if (!row.Persisted()) continue;
         switch (row.fallback.index()) {
-        case 0: row.let(web, 0, Text(row.name) + hostile); break;
-        case 1: row.let(web, 0, Flag(!std::get<Flag>(row.fallback))); break;
-        case 2: row.let(web, 0, number++); break;
-        default: row.let(web, 0, Picture{"C:\\pictures\\\"x\".ico"}); break;
+        case 0:
+            row.let(web, 0, Text(row.name) + hostile);
+            break;
+        case 1:
+            row.let(web, 0, Flag(!std::get<Flag>(row.fallback)));
+            break;
+        case 2:
+            row.let(web, 0, number++);
+            break;
+        default:
+            row.let(web, 0, Picture{"C:\\pictures\\\"x\".ico"});
+            break;
         }
     }
 }
