@@ -105,28 +105,37 @@ void RecordPainter::Paint(html::TableWriter& table, Long place, Long first, Long
             cell = DataCell(column, own ? place : first, record);
     }
     if (!exposed_.empty()) {
+        const bool own = first == place || !columns_[static_cast<std::size_t>(exposedColumn_ - 1)].ofRecord;
         html::CellView& cell = cells_[static_cast<std::size_t>(exposedColumn_ - 1)];
-        exposedBefore_ = exposed_;
-        exposedBefore_ += cell.before;
-        cell.before = exposedBefore_;
+        cell.before = ExposedBefore(own ? place : first, cell.before);
     }
     table.Row(cells_);
 }
 
-CellTexts::Pieces RecordPainter::CellText(Long place, Long gridColumn) {
-    const Column& column = columns_[static_cast<std::size_t>(gridColumn - 1)];
-    if (main_.IsText(place)) {
-        const GridCell* cell = TextRow(place).Find(gridColumn);
-        return cell ? CellTexts::Pieces{{}, cell->text, {}} : CellTexts::Pieces{};
-    }
-    const RecordGrid::Row row = main_.grid.At(place);
-    return column.source == 0 ? texts_.RecordNumber(row.source, row.sub <= 1)
-                              : texts_.Data(row.source, column.source);
+TextView RecordPainter::ExposedBefore(Long place, TextView before) {
+    const auto exposed = exposed_.find(place);
+    if (exposed == exposed_.end()) return before;
+    exposedBefore_ = exposed->second;
+    return exposedBefore_.append(before);
 }
 
-void RecordPainter::Expose(Long gridColumn, Text prefix) {
+CellTexts::Pieces RecordPainter::CellText(Long place, Long gridColumn) {
+    const Column& column = columns_[static_cast<std::size_t>(gridColumn - 1)];
+    CellTexts::Pieces text;
+    if (main_.IsText(place)) {
+        if (const GridCell* cell = TextRow(place).Find(gridColumn)) text.value = cell->text;
+    } else {
+        const RecordGrid::Row row = main_.grid.At(place);
+        text = column.source == 0 ? texts_.RecordNumber(row.source, row.sub <= 1)
+                                  : texts_.Data(row.source, column.source);
+    }
+    if (gridColumn == exposedColumn_ && !exposed_.empty()) text.before = ExposedBefore(place, text.before);
+    return text;
+}
+
+void RecordPainter::Expose(Long gridColumn, Long place, const Text& prefix) {
     exposedColumn_ = gridColumn;
-    exposed_ = std::move(prefix);
+    exposed_[place].insert(0, prefix);
 }
 
 } // namespace ostrel::tablepages

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <span>
+#include <unordered_map>
 
 #include "html/TableWriter.h"
 #include "tablepages/CellTexts.h"
@@ -27,8 +27,9 @@ public:
     /// The text of one cell of the main table, good until the next call.
     CellTexts::Pieces CellText(Long place, Long gridColumn);
     CellTexts& Texts() { return texts_; }
-    /// Puts a text in front of the cells of one column in the rows that follow.
-    void Expose(Long gridColumn, Text prefix);
+    /// Puts a text in front of the cell of a column at a place, until `EndExposing`. One column at a time.
+    void Expose(Long gridColumn, Long place, const Text& prefix);
+    void EndExposing() { exposed_.clear(); }
 
 private:
     using Tags = std::array<std::array<const html::TagInfo*, 2>, 2>; // [filled][odd record]
@@ -51,6 +52,8 @@ private:
     Tags MakeTags(html::TagTable& table, const Column& column, TextView given) const;
     Text TagText(const Column& column, TextView given, bool filled, Long record) const;
     const GridRow& TextRow(Long place);
+    /// The exposed text and what stands in front of the cell anyway.
+    TextView ExposedBefore(Long place, TextView before);
 
     const ReportFrame& frame_;
     const MainTable& main_;
@@ -63,7 +66,8 @@ private:
     Long textPlace_ = 0;
     bool textKnown_ = false;
     Long exposedColumn_ = 0;
-    Text exposed_, exposedBefore_;
+    std::unordered_map<Long, Text> exposed_; ///< by place
+    Text exposedBefore_;
 };
 
 } // namespace ostrel::tablepages

@@ -38,15 +38,14 @@ private:
     void TakeTop();
     void TellUnchanged(const Text& path) const;
 
-    void AddUp(bool up);
+    void AddUp();
     void AddToTotals(Long place, Long first);
     void EndTotals();
     void AddFoot(bool up);
-    void Write(bool up);
-    void WriteRows(html::TableWriter& table, bool up);
+    void Write();
+    void WriteRows(html::TableWriter& table);
 
-    /// What exposing the cell at a place puts in front of it, on a walk in sorted order.
-    Text Exposed(Long place, Text& last);
+    void Expose();
     CellTexts::Pieces CellText(Long place, Long first, Long gridColumn);
 
     ReportRun& run_;
@@ -62,7 +61,6 @@ private:
     /// The sub-totals of the page in hand: in front of which position each stands, and its texts.
     std::vector<Long> groupStarts_;
     std::vector<Text> groupTexts_;
-    Text exposed_;
 };
 
 // The header of the record numbers leads back to the main page. It is put into the main table at either
@@ -99,21 +97,22 @@ void SortPages::TellUnchanged(const Text& path) const {
     events.PageCreated2.Tell(path, false, false, static_cast<Long>(std::min(size, most)));
 }
 
-Text SortPages::Exposed(Long place, Text& last) {
-    const Text name = html::CreateAnchorName(CellTexts::Joined(painter_.CellText(place, column_.grid)));
-    if (EqualText(name, last)) return {};
-    last = name;
-    return html::CreateAnchor(frame_.Name(column_.source) + "." + name);
+/// Puts an anchor at the first row of each value.
+void SortPages::Expose() {
+    Text last;
+    for (Long position = 0; position < order_.Count(); ++position) {
+        const Long place = order_.PlaceAt(position);
+        if (place < 0) continue;
+        const Text name = html::CreateAnchorName(CellTexts::Joined(painter_.CellText(place, column_.grid)));
+        if (EqualText(name, last)) continue;
+        last = name;
+        painter_.Expose(column_.grid, place, html::CreateAnchor(frame_.Name(column_.source) + "." + name));
+    }
 }
 
 CellTexts::Pieces SortPages::CellText(Long place, Long first, Long gridColumn) {
     const Long source = frame_.columns.shown[static_cast<std::size_t>(gridColumn - 1)];
-    const bool ofRow = frame_.options.PageTableColumnSubRecord.Get(source);
-    CellTexts::Pieces text = painter_.CellText(ofRow ? place : first, gridColumn);
-    if (gridColumn != column_.grid || exposed_.empty()) return text;
-    exposed_ += text.before;
-    text.before = exposed_;
-    return text;
+    return painter_.CellText(frame_.options.PageTableColumnSubRecord.Get(source) ? place : first, gridColumn);
 }
 
 void SortPages::AddToTotals(Long place, Long first) {
@@ -129,22 +128,20 @@ void SortPages::AddToTotals(Long place, Long first) {
 }
 
 /// Walks the rows for the sums and for the places of the sub-totals.
-void SortPages::AddUp(bool up) {
+void SortPages::AddUp() {
     run_.totals.Clear(true);
     groupStarts_.clear();
     groupTexts_.clear();
     const bool sums = (frame_.options.PageTableTotal || column_.subTotals) && !run_.totals.Columns().empty();
     if (!sums && !column_.subTotals) return;
 
-    Text group, lastExposed;
+    Text group;
     Long place = -1;
     for (Long position = 0; position < order_.Count(); ++position) {
         if (const Long next = order_.PlaceAt(position); next >= 0) place = next;
         if (place < 0) continue;
-        const Text prefix = exposes_ && up ? Exposed(place, lastExposed) : Text();
         const Long first = order_.FirstOf(place);
         if (column_.subTotals) {
-            exposed_ = prefix;
             const TextView value = painter_.Texts().Plain(CellText(place, first, column_.grid));
             if (position == 0) {
                 group = value;
@@ -157,14 +154,11 @@ void SortPages::AddUp(bool up) {
             }
         }
         if (!sums) continue;
-        exposed_ = prefix;
         AddToTotals(place, first);
-        exposed_.clear();
         if (column_.ofRow) continue;
         const Long rows = main_.grid.At(place).count;
         for (Long further = 1; further < rows; ++further) AddToTotals(place + further, place + further);
     }
-    exposed_.clear();
 }
 
 void SortPages::EndTotals() {
@@ -202,11 +196,10 @@ void SortPages::AddFoot(bool up) {
     links(4);
 }
 
-void SortPages::WriteRows(html::TableWriter& table, bool up) {
+void SortPages::WriteRows(html::TableWriter& table) {
     const GridRows above = subTotal_.Above(), below = subTotal_.Below();
     const std::size_t totals = run_.totals.Columns().size();
     std::size_t group = 0;
-    Text lastExposed;
     Long place = -1;
     for (Long position = 0; position < order_.Count(); ++position) {
         if (group < groupStarts_.size() && groupStarts_[group] == position) {
@@ -222,9 +215,7 @@ void SortPages::WriteRows(html::TableWriter& table, bool up) {
             painter_.Paint(table, GridRow(frame_.columns.Width()));
             continue;
         }
-        if (exposes_ && up) painter_.Expose(column_.grid, Exposed(place, lastExposed));
         painter_.Paint(table, place, order_.FirstOf(place), record);
-        if (exposes_ && up) painter_.Expose(column_.grid, {});
         if (column_.ofRow) continue;
         const Long rows = main_.grid.At(place).count;
         for (Long further = 1; further < rows; ++further)
@@ -232,12 +223,12 @@ void SortPages::WriteRows(html::TableWriter& table, bool up) {
     }
 }
 
-void SortPages::Write(bool up) {
+void SortPages::Write() {
     const bool empty = order_.Count() == 0 && top_.empty() && foot_.empty();
     run_.page.Build(run_.Scope(), frame_.options, frame_.columns.Width(), empty,
                     [&](html::TableWriter& table) {
                         painter_.Paint(table, top_);
-                        WriteRows(table, up);
+                        WriteRows(table);
                         painter_.Paint(table, foot_);
                     });
 }
@@ -264,14 +255,16 @@ bool SortPages::Make(bool up, Text& error) {
     order_.Sort(up);
     if (Interrupted(frame_, error)) return false;
 
+    if (exposes_ && up) Expose();
     html::TellProgress(scope, "Creating Page - " + name_, 0);
-    AddUp(up);
+    AddUp();
     AddFoot(up);
     html::TellProgress(scope, "Creating Table - " + name_, 0);
     scope.context.GiveWay();
-    Write(up);
+    Write();
     html::TellProgress(scope, "Saving Page - " + name_, 0);
     if (!SavePage(run_, path, error)) return false;
+    painter_.EndExposing();
     scope.context.events.StatusTextChange.Tell("Slow");
     html::TellPageCreated(scope, path);
     return true;
