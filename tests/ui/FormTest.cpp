@@ -1,0 +1,201 @@
+#include <gtest/gtest.h>
+
+#include "support/MemoryFiles.h"
+#include "ui/MessageBox.h"
+#include "ui/ScriptedUser.h"
+
+namespace ostrel::test {
+namespace {
+
+using Verb = UserStep::Verb;
+
+/// A form with one of everything.
+struct SampleForm final : Form {
+    TextBox txtName{*this, "txtName", "Name"};
+    FrameBox fraMore{*this, "fraMore", "More"};
+    CheckBox chkBold{*this, "chkBold", "Bold", 'B'};
+    CheckBox chkItalic{*this, "chkItalic", "Italic", 'I'};
+    OptionButton optLeft{*this, "optLeft", "Left", 'L'};
+    OptionButton optRight{*this, "optRight", "Right", 'R'};
+    ListBox lisLines{*this, "lisLines", [this] { heard += "click;"; }, [this] { heard += "double;"; }};
+    ComboBox cboFree{*this, "cboFree"};
+    ComboBox cboFixed{*this, "cboFixed", "", false};
+    ControlArray<Button> cmdInsert{"cmdInsert", 1, 3, [this](Text arrayName, Long i) {
+                                       return std::make_unique<Button>(
+                                           *this, arrayName, "", [this, i] { heard += FromLong(i) + ";"; });
+                                   }};
+    RichText rtfText{*this, "rtfText"};
+    Menu mnuPopup{*this, "mnuPopup"};
+    MenuItem mnuCut{*this, mnuPopup, "mnuCut", "Cut", [this] { heard += "cut;"; }};
+    MenuItem mnuBar{*this, mnuPopup, "mnuBar", "-"};
+    MenuItem mnuGone{*this, mnuPopup, "mnuGone", "Gone"};
+    FormTimer tmrChoose{*this, "tmrChoose", 100, [this] {
+                            heard += "tick;";
+                            tmrChoose.Stop();
+                        }};
+    Button cmdOK{*this, "cmdOK", "OK", [this] { Finish(); }};
+    Button cmdCancel{*this, "cmdCancel", "Cancel", [this] { Close(); }};
+    Text heard;
+
+    SampleForm() : Form("frmSample", "Sample") {
+        for (Control* control : {static_cast<Control*>(&chkBold), static_cast<Control*>(&chkItalic)})
+            control->container = &fraMore;
+        lisLines.items = cboFree.items = cboFixed.items = {"one", "two"};
+    }
+    void PrepareMenu() override {
+        mnuCut.enabled = rtfText.SelLength() > 0;
+        mnuGone.visible = false;
+    }
+    bool Accept() override { return !txtName.text.empty() || Fault(txtName, "Must Enter a Name."); }
+    using Form::Options;
+    using Form::SetOptions;
+
+private:
+    static Text FromLong(Long number) { return std::to_string(number); }
+};
+
+class Forms : public testing::Test {
+protected:
+    bool Run(std::vector<UserStep> steps) {
+        user.Queue("frmSample", std::move(steps));
+        return form.Show(platform);
+    }
+    HeadlessPlatform platform = MakeHeadlessPlatform(true, std::make_unique<MemoryFiles>());
+    ScriptedUser user{platform};
+    SampleForm form;
+};
+
+TEST_F(Forms, AUserFillsItInAndAccepts) {
+    EXPECT_TRUE(Run({{Verb::Set, "txtName", Text("  x ")},
+                     {Verb::Set, "chkBold", Flag(true)},
+                     {Verb::Click, "chkItalic", {}},
+                     {Verb::Click, "chkItalic", {}},
+                     {Verb::Set, "optLeft", Flag(true)},
+                     {Verb::Click, "optRight", {}},
+                     {Verb::Set, "lisLines", Long{1}},
+                     {Verb::Set, "lisLines", Text("one")},
+                     {Verb::Set, "lisLines", Long{2}},
+                     {Verb::DoubleClick, "lisLines", {}},
+                     {Verb::Set, "cboFree", Text("free")},
+                     {Verb::Set, "cboFixed", Text("free")},
+                     {Verb::Set, "cboFixed", Text("two")},
+                     {Verb::Click, "cmdInsert(3)", {}},
+                     {Verb::Click, "cmdInsert(4)", {}},
+                     {Verb::Click, "nobody", {}},
+                     {Verb::Click, "cmdOK", {}},
+                     {Verb::Click, "cmdInsert(1)", {}}}));
+    EXPECT_EQ(form.txtName.text, "x");
+    EXPECT_EQ(form.Options("RIBL"), "RB");
+    EXPECT_EQ(form.lisLines.index, 0);
+    EXPECT_EQ(form.cboFree.text, "free");
+    EXPECT_EQ(form.cboFixed.text, "two");
+    EXPECT_EQ(form.cboFixed.index, 1);
+    EXPECT_EQ(form.heard, "click;click;double;3;");
+}
+
+TEST_F(Forms, AFaultKeepsItOpen) {
+    EXPECT_FALSE(Run({{Verb::Set, "txtName", Text("   ")},
+                      {Verb::Click, "cmdOK", {}},
+                      {Verb::Look, "focus", {}},
+                      {Verb::Close, "", {}}}));
+    const auto messages = user.TakeMessages();
+    ASSERT_EQ(messages.size(), 1u);
+    EXPECT_EQ(messages[0].text, "Must Enter a Name.");
+    EXPECT_EQ(messages[0].title, "Sample Error");
+    EXPECT_TRUE(std::get<FieldValue>(user.TakeSeen()[0].value) == FieldValue(Text("txtName")));
+    EXPECT_EQ(user.TakeShown(), (std::vector<Text>{"frmSample", "MessageBox"}));
+}
+
+TEST_F(Forms, WhatIsHiddenOrDisabledCannotBeWorked) {
+    form.fraMore.visible = false;
+    form.txtName.enabled = false;
+    form.cboFree.locked = true;
+    form.cmdInsert.Find(2)->visible = false;
+    Run({{Verb::Set, "chkBold", Flag(true)},
+         {Verb::Set, "txtName", Text("x")},
+         {Verb::Set, "cboFree", Text("x")},
+         {Verb::Click, "cmdInsert(2)", {}},
+         {Verb::Click, "mnuCut", {}},
+         {Verb::Menu, "cmdInsert(1)", {}}});
+    EXPECT_EQ(form.Options("B"), "");
+    EXPECT_EQ(form.txtName.text, "");
+    EXPECT_EQ(form.cboFree.text, "");
+    EXPECT_EQ(form.heard, "");
+}
+
+TEST_F(Forms, MainTextTakesKeysSelectionAndMenu) {
+    Run({{Verb::Set, "rtfText", Text("abcd")},
+         {Verb::Menu, "mnuCut", {}},
+         {Verb::Select, "", {}, 1, 99},
+         {Verb::Menu, "mnuCut", {}},
+         {Verb::Look, "rtfText.SelLength", {}},
+         {Verb::Look, "mnuPopup.entries", {}},
+         {Verb::Key, "Shift+X", {}},
+         {Verb::Key, "Enter", {}},
+         {Verb::Key, "Ctrl+B", {}},
+         {Verb::Look, "rtfText.text", {}}});
+    EXPECT_EQ(form.heard, "cut;");
+    const auto seen = user.TakeSeen();
+    ASSERT_EQ(seen.size(), 3u);
+    EXPECT_TRUE(std::get<FieldValue>(seen[0].value) == FieldValue(Long{3}));
+    EXPECT_TRUE(std::get<FieldValue>(seen[1].value) == FieldValue(std::vector<Text>{"Cut", "-"}));
+    EXPECT_TRUE(std::get<FieldValue>(seen[2].value) == FieldValue(Text("aX\r\n")));
+}
+
+TEST_F(Forms, TimersRunBeforeAFormIsClosed) {
+    form.tmrChoose.Start();
+    EXPECT_FALSE(Run({{Verb::Set, "txtName", Text("x")}}));
+    EXPECT_EQ(form.heard, "tick;");
+    form.tmrChoose.Start();
+    EXPECT_FALSE(form.Show(platform)) << "nobody is queued";
+    EXPECT_EQ(form.heard, "tick;tick;");
+    platform.VirtualTime()->Advance(1000);
+    EXPECT_EQ(form.heard, "tick;tick;") << "not without its form";
+}
+
+TEST_F(Forms, OptionLettersIgnoreCase) {
+    form.SetOptions("xbR");
+    EXPECT_EQ(form.Options("BILR"), "BR");
+}
+
+TEST(FitOnScreen, TheLaterRuleWins) {
+    struct Row {
+        Bounds form, expected;
+    };
+    for (const auto& [form, expected] : std::vector<Row>{{{10, 20, 100, 50}, {10, 20, 100, 50}},
+                                                         {{950, 780, 100, 50}, {900, 750, 100, 50}},
+                                                         {{-5, -5, 100, 50}, {0, 0, 100, 50}},
+                                                         {{300, 300, 2000, 900}, {0, 0, 2000, 900}}})
+        EXPECT_EQ(FitOnScreen(form, {0, 0, 1000, 800}), expected);
+}
+
+TEST(MessageBoxes, EndByTheirMostHarmlessAnswer) {
+    HeadlessPlatform platform = MakeHeadlessPlatform(true, std::make_unique<MemoryFiles>());
+    const std::vector<Long> harmless{1, 2, 3, 7, 7, 2};
+    for (int seated = 0; seated < 2; ++seated) {
+        std::optional<ScriptedUser> user;
+        if (seated) user.emplace(platform);
+        for (std::size_t buttons = 0; buttons < harmless.size(); ++buttons)
+            EXPECT_EQ(platform.screen->Message(MessageKind::Query, "t", "c", static_cast<Long>(buttons)),
+                      harmless[buttons]);
+    }
+}
+
+TEST(MessageBoxes, AUserPressesAButtonByItsWord) {
+    HeadlessPlatform platform = MakeHeadlessPlatform(true, std::make_unique<MemoryFiles>());
+    ScriptedUser user(platform);
+    struct Row {
+        Long buttons;
+        Text word;
+        Long answer;
+    };
+    for (const auto& [buttons, word, answer] :
+         std::vector<Row>{{0, "OK", 1}, {2, "Retry", 4}, {2, "Ignore", 5}, {3, "Yes", 6}, {4, "Cancel", 7}}) {
+        user.Queue("MessageBox", {{Verb::Look, "text", {}}, {Verb::Click, word, {}}});
+        EXPECT_EQ(platform.screen->Message(MessageKind::Query, "Sure?", "Desk", buttons), answer);
+    }
+    EXPECT_TRUE(std::get<FieldValue>(user.TakeSeen()[0].value) == FieldValue(Text("Sure?")));
+}
+
+} // namespace
+} // namespace ostrel::test
