@@ -10,10 +10,10 @@ namespace ostrel::bridge {
 
 namespace {
 
-/// How deep the requests of listener rules may be nested, and how many one line may set off. Rules that raise
-/// the events that they listen to would otherwise run without an end.
+/// How deep the requests of listener rules may be nested, and how many one line may carry out inside the
+/// events of one another. Rules that raise the events that they listen to would otherwise run without an end.
 constexpr int MaxNestedRequests = 64;
-constexpr long MaxRequestsOfLine = 1'000'000;
+constexpr long MaxInnerRequests = 100'000;
 
 /// Runs the work; the result is the sentence that tells why it failed, empty for success.
 template <class Work>
@@ -108,7 +108,7 @@ std::string Bridge::Answer(std::string_view line) {
         const Json request = ParseRequest(line);
         id = IdOf(request);
         const bool quiet = IsQuiet(request);
-        nested_ = 0;
+        inner_ = 0;
         // Real time has gone on since the last line. Virtual time stands still.
         if (!platform_.VirtualTime() && platform_.clock->Pending()) platform_.clock->Yield();
         CallAnswer answer;
@@ -163,9 +163,9 @@ void Bridge::CarryOut(const Json& request, CallAnswer& answer) {
 }
 
 void Bridge::CarryOutNested(const Json& request) {
-    if (depth_ >= MaxNestedRequests || nested_ >= MaxRequestsOfLine) return;
+    if (depth_ >= MaxNestedRequests || inner_ >= MaxInnerRequests) return;
+    if (depth_ > 0) ++inner_;
     ++depth_;
-    ++nested_;
     Attempt([&] {
         CallAnswer dropped;
         CarryOut(request, dropped);

@@ -78,9 +78,10 @@ private:
     EventDesk events_;
     /// The inside of a JSON array of the names given to `PropertyChanged`.
     std::string changed_;
-    /// How deep requests are nested in events, and how many of them the line has carried out.
+    /// How deep requests are nested in events now, and how many the line has carried out inside events of one
+    /// another.
     int depth_ = 0;
-    long nested_ = 0;
+    long inner_ = 0;
     std::unique_ptr<OstrelWebHelp> web_;
 };
 
