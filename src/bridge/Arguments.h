@@ -11,10 +11,12 @@ namespace ostrel::bridge {
 /// another kind, or too many.
 class Arguments {
 public:
-    /// `owner` is who takes them, for the sentence that refuses.
-    Arguments(const Json& array, std::string_view owner) : array_(array), owner_(owner) {
-        RequireArray(array, Place{owner});
+    /// `key` is where the array stands and `owner` is who takes its elements, for the sentence that refuses.
+    Arguments(const Json& array, std::string_view key, std::string_view owner)
+        : array_(array), owner_(owner) {
+        RequireArray(array, Place{key});
     }
+    Arguments(const Json& array, std::string_view key) : Arguments(array, key, key) {}
 
     template <class T>
     T Take(std::string_view name) {
@@ -34,7 +36,7 @@ public:
     }
     /// Nothing may be left.
     void End() const {
-        if (More()) throw Refusal(std::string(owner_) + " takes fewer arguments.");
+        if (More()) throw Refusal(std::string(owner_) + " takes fewer values.");
     }
 
 private:

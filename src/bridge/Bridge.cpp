@@ -149,6 +149,7 @@ const std::vector<Bridge::Verb>& Bridge::Verbs() {
         {"screen", &Bridge::SizeScreen},
         {"ticks", &Bridge::Ticks},
         {"new", &Bridge::Renew},
+        {"write", &Bridge::WriteBag},
         {"describe", &Bridge::Describe},
     };
     return verbs;

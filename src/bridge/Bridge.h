@@ -66,6 +66,7 @@ private:
     void SizeScreen(const Json& request, CallAnswer& answer);
     void Ticks(const Json& request, CallAnswer& answer);
     void Renew(const Json& request, CallAnswer& answer);
+    void WriteBag(const Json& request, CallAnswer& answer);
     void Describe(const Json& request, CallAnswer& answer);
 
     /// A visual child of the control; a Refusal where there is none of that name.

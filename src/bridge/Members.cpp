@@ -39,9 +39,9 @@ const Member* FindMember(std::string_view name) {
 void RequireArity(const Member& member, const Json& arguments) {
     const std::size_t takes = member.arguments.size();
     if (arguments.size() <= takes) return;
-    throw Refusal(std::string(member.name) + " takes " + (takes == 0 ? "no" : std::to_string(takes)) +
-                  (takes == 1 ? " argument, " : " arguments, ") + std::to_string(arguments.size()) +
-                  " were given.");
+    throw Refusal(std::string(member.name) + (takes == 0 ? " takes no arguments."
+                                                         : " takes at most " + std::to_string(takes) +
+                                                               (takes == 1 ? " argument." : " arguments.")));
 }
 
 void RequireCounts(const Member& member, std::span<const Measure> measures) {

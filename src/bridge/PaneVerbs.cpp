@@ -125,7 +125,7 @@ void Bridge::Browser(const Json& request, CallAnswer& answer) {
     Read(request.at("browser"), Place{"browser"}, name);
     static const Json none = Json::array();
     const auto given = request.find("args");
-    Arguments arguments(given == request.end() ? none : *given, "args");
+    Arguments arguments(given == request.end() ? none : *given, "args", name);
     for (const PaneEvent& event : PaneEvents)
         if (event.name == name) {
             BrowserSink* sink = platform_.Pane().Sink();
