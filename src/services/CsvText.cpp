@@ -1,5 +1,8 @@
 #include "services/CsvText.h"
 
+#include <cstdint>
+#include <cstring>
+
 #include "services/FileServices.h"
 #include "text/CodePage.h"
 
@@ -10,12 +13,49 @@ namespace {
 constexpr std::size_t PieceSize = std::size_t{1} << 20;
 constexpr Long RecordsPerTurn = 50;
 
+/// Up to 8 bytes in one word; fewer than 8 fill it more than once.
+std::uint64_t Word(const char* bytes, std::size_t size) {
+    std::uint64_t word = 0;
+    if (size >= 8) {
+        std::memcpy(&word, bytes, 8);
+    } else if (size >= 4) {
+        std::memcpy(&word, bytes, 4);
+        std::uint32_t end;
+        std::memcpy(&end, bytes + size - 4, 4);
+        word |= std::uint64_t{end} << 32;
+    } else {
+        const auto at = [&](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(bytes[i])}; };
+        word = at(0) | at(size / 2) << 8 | at(size - 1) << 16;
+        word |= word << 24 | word << 48;
+    }
+    return word;
+}
+
+/// Whether one of the bytes occurs, looked for in all bytes of a word at once, since most values are short
+/// and hold none.
+bool HoldsAny(TextView value, const char (&wanted)[4]) {
+    constexpr std::uint64_t ones = 0x0101010101010101u, highs = 0x8080808080808080u;
+    const char* bytes = value.data();
+    for (std::size_t left = value.size(); left > 0;) {
+        const std::uint64_t word = Word(bytes, left);
+        std::uint64_t hit = 0;
+        for (const char c : wanted) {
+            const std::uint64_t zeroWhereEqual = word ^ (ones * static_cast<unsigned char>(c));
+            hit |= (zeroWhereEqual - ones) & ~zeroWhereEqual & highs;
+        }
+        if (hit) return true;
+        const std::size_t read = left < 8 ? left : 8;
+        bytes += read;
+        left -= read;
+    }
+    return false;
+}
+
 /// Whether a value must stand in quotes.
 bool NeedsQuotes(TextView value, TextView delimiter) {
-    const unsigned char mark = delimiter.size() == 1 ? UpperByte(delimiter[0]) : '"';
-    for (const char c : value)
-        if (c == '"' || c == '\r' || c == '\n' || UpperByte(c) == mark) return true;
-    return delimiter.size() > 1 && FindText(value, delimiter) != NotFound;
+    const bool oneByte = delimiter.size() == 1 && UpperByte(delimiter[0]) == LowerByte(delimiter[0]);
+    if (HoldsAny(value, {'"', '\r', '\n', oneByte ? delimiter[0] : '"'})) return true;
+    return !oneByte && !delimiter.empty() && FindText(value, delimiter) != NotFound;
 }
 
 /// Collects the text of a file in pieces, so that no large text has to grow.
@@ -49,11 +89,9 @@ void AppendCsvValue(Text& output, TextView value, TextView delimiter) {
         return;
     }
     output += '"';
-    for (const char c : value) {
-        if (c == '"') output += '"';
-        output += c;
-    }
-    output += '"';
+    for (std::size_t quote; (quote = value.find('"')) != NotFound; value.remove_prefix(quote + 1))
+        output.append(value.substr(0, quote)).append("\"\"");
+    output.append(value).append("\"");
 }
 
 Text WriteFileCSVValue(TextView value, TextView delimiter) {

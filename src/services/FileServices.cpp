@@ -25,7 +25,7 @@ bool Failed(const FileResult& result, Text& error) {
 
 /// The files that a path or mask stands for.
 std::vector<Text> Matching(Files& files, const Text& path) {
-    const Text directory = FileDirectory(path);
+    const Text directory = path.substr(0, path.find_last_of("\\/:") + 1);
     std::vector<Text> paths;
     for (Text& name : files.List(path)) {
         // A mask ignores case; a plain path means its own spelling alone.
