@@ -168,8 +168,10 @@ Flag OstrelWebHelp::WriteFileFromCSVDatabase(const Text& FilePath, const Array<T
             const Text* value = FieldValues.Find(record, field);
             return value ? TextView(*value) : TextView();
         };
+        LargeBuffer room;
         return services::WriteCsvFile(context_, state_.service.ProgramName, FilePath, FieldNames, cell,
-                                      NumberRecords, NumberFields, ErrorMessage, Delimiter, CreateBackup);
+                                      NumberRecords, NumberFields, ErrorMessage, Delimiter, CreateBackup,
+                                      room);
     });
 }
 

@@ -10,7 +10,6 @@ namespace ostrel::services {
 
 namespace {
 
-constexpr std::size_t PieceSize = std::size_t{1} << 20;
 constexpr Long RecordsPerTurn = 50;
 
 /// Up to 8 bytes in one word; fewer than 8 fill it more than once.
@@ -58,51 +57,33 @@ bool NeedsQuotes(TextView value, TextView delimiter) {
     return !oneByte && !delimiter.empty() && FindText(value, delimiter) != NotFound;
 }
 
-/// Collects the text of a file in pieces, so that no large text has to grow.
-class Pieces {
-public:
-    Text& Current() { return current_; }
-    void FoldWhenFull() {
-        if (current_.size() >= PieceSize) Fold();
+/// Gives the value piece by piece, in quotes where it needs them.
+template <class Append>
+void SpellValue(TextView value, TextView delimiter, Append append) {
+    if (!NeedsQuotes(value, delimiter)) {
+        append(value);
+        return;
     }
-    const Rope& Whole() {
-        rope_.Append(std::move(current_));
-        return rope_;
+    append("\"");
+    for (std::size_t quote; (quote = value.find('"')) != NotFound; value.remove_prefix(quote + 1)) {
+        append(value.substr(0, quote));
+        append("\"\"");
     }
-
-private:
-    void Fold() {
-        rope_.Append(std::move(current_));
-        current_ = Text();
-        current_.reserve(PieceSize + PieceSize / 8);
-    }
-
-    Rope rope_;
-    Text current_;
-};
+    append(value);
+    append("\"");
+}
 
 } // namespace
 
-void AppendCsvValue(Text& output, TextView value, TextView delimiter) {
-    if (!NeedsQuotes(value, delimiter)) {
-        output.append(value);
-        return;
-    }
-    output += '"';
-    for (std::size_t quote; (quote = value.find('"')) != NotFound; value.remove_prefix(quote + 1))
-        output.append(value.substr(0, quote)).append("\"\"");
-    output.append(value).append("\"");
-}
-
 Text WriteFileCSVValue(TextView value, TextView delimiter) {
     Text result;
-    AppendCsvValue(result, value, delimiter);
+    SpellValue(value, delimiter, [&](TextView piece) { result.append(piece); });
     return result;
 }
 
 bool WriteCsvFile(Context& context, const Text& title, const Text& path, const Array<Text>& names,
                   const CsvCell& cell, Long records, Long fields, Text& error, const Text& delimiter,
-                  bool createBackup) {
+                  bool createBackup, LargeBuffer& room) {
     error.clear();
     if (records < 1)
         error = "No Records to write.";
@@ -110,19 +91,19 @@ bool WriteCsvFile(Context& context, const Text& title, const Text& path, const A
         error = "No Fields to write.";
     if (!error.empty()) return false;
 
-    Pieces pieces;
+    room.Clear();
+    const auto append = [&](TextView piece) { room.Append(piece); };
     for (Long field = 1; field <= fields; ++field) {
-        if (field > 1) pieces.Current() += delimiter;
-        if (const Text* name = names.Find(field)) AppendCsvValue(pieces.Current(), *name, delimiter);
+        if (field > 1) room.Append(delimiter);
+        if (const Text* name = names.Find(field)) SpellValue(*name, delimiter, append);
     }
-    pieces.Current() += LineEnd;
+    room.Append(LineEnd);
     for (Long record = 1; record <= records; ++record) {
         for (Long field = 1; field <= fields; ++field) {
-            if (field > 1) pieces.Current() += delimiter;
-            AppendCsvValue(pieces.Current(), cell(record, field), delimiter);
+            if (field > 1) room.Append(delimiter);
+            SpellValue(cell(record, field), delimiter, append);
         }
-        pieces.Current() += LineEnd;
-        pieces.FoldWhenFull();
+        room.Append(LineEnd);
         if (record % RecordsPerTurn != 0) continue;
         context.GiveWay();
         if (context.run.Stopped()) {
@@ -130,7 +111,9 @@ bool WriteCsvFile(Context& context, const Text& title, const Text& path, const A
             return false;
         }
     }
-    return WriteFileFull(context, title, path, pieces.Whole(), error, {createBackup, false, true});
+    Rope whole;
+    whole.Append(nullptr, room.View());
+    return WriteFileFull(context, title, path, whole, error, {createBackup, false, true});
 }
 
 } // namespace ostrel::services

@@ -30,7 +30,8 @@ bool Check(ReportFrame& frame, Text& error) {
     return true;
 }
 
-bool WriteCsv(ReportFrame& frame, Text& error) {
+bool WriteCsv(ReportRun& run, Text& error) {
+    ReportFrame& frame = run.frame;
     const html::PageScope& page = frame.scope.page;
     const TableInput& input = frame.input;
     html::TellProgress(page, "Saving to Excel", 0);
@@ -45,7 +46,7 @@ bool WriteCsv(ReportFrame& frame, Text& error) {
     };
     Text writeError;
     if (services::WriteCsvFile(page.context, page.service.ProgramName, frame.csvPath, names, cell, input.rows,
-                               input.columns, writeError, ",", false))
+                               input.columns, writeError, ",", false, run.page.Room()))
         return true;
     error = writeError;
     return false;
@@ -62,7 +63,7 @@ bool MakePages(ReportRun& run, Text& error) {
     ReportFrame& frame = run.frame;
     const TableOptions& options = frame.options;
     const html::PageScope& page = run.Scope();
-    if (options.PageTableAddExcel && !WriteCsv(frame, error)) return false;
+    if (options.PageTableAddExcel && !WriteCsv(run, error)) return false;
 
     frame.footText = EdgeAnchor(page.page.PageAnchorBottom);
     frame.headText = EdgeAnchor(page.page.PageAnchorTop);

@@ -6,12 +6,17 @@
 
 namespace ostrel::tablepages {
 
-void PageTable::Build(const html::PageScope& page, const TableOptions& options, Long columns, bool empty,
-                      const Fill& fill) {
-    page.help.HelpPart2.Clear();
+LargeBuffer& PageTable::Room() {
     // The body of the main page may still stand in the buffer.
     if (!buffer_ || buffer_.use_count() > 1) buffer_ = std::make_shared<LargeBuffer>();
     buffer_->Clear();
+    return *buffer_;
+}
+
+void PageTable::Build(const html::PageScope& page, const TableOptions& options, Long columns, bool empty,
+                      const Fill& fill) {
+    page.help.HelpPart2.Clear();
+    Room();
 
     const Text font = html::PageFontStartTag(page, owhFontTable);
     if (!empty && columns > 0) {

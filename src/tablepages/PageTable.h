@@ -20,6 +20,9 @@ public:
     void Build(const html::PageScope& page, const TableOptions& options, Long columns, bool empty,
                const Fill& fill);
 
+    /// The buffer itself, emptied, for other text of the run that comes before a page.
+    LargeBuffer& Room();
+
 private:
     std::shared_ptr<LargeBuffer> buffer_;
 };

@@ -60,8 +60,9 @@ TEST(CsvText, WritesRecordsAndStops) {
             return TextView(value);
         };
         Text message = "before";
+        LargeBuffer room;
         EXPECT_EQ(WriteCsvFile(platform.context, "", "C:\\d\\a.csv", Array<Text>{"N;1"}, cell, records,
-                               fields, message, ",", true),
+                               fields, message, ",", true, room),
                   error.empty());
         EXPECT_EQ(message, error);
         const Text& written = platform.Disk().files["C:\\d\\a.csv"];
