@@ -62,15 +62,18 @@ public:
 
 private:
     void Extend(std::size_t count);
+    void MoveTo(std::size_t needed);
     void Swap(LargeBuffer& other) noexcept {
         std::swap(data_, other.data_);
         std::swap(size_, other.size_);
         std::swap(capacity_, other.capacity_);
+        std::swap(range_, other.range_);
     }
 
     char* data_ = nullptr;
     std::size_t size_ = 0;
     std::size_t capacity_ = 0;
+    std::size_t range_ = 0; ///< addresses kept for growth, `capacity_` among them
 };
 
 } // namespace ostrel

@@ -5,6 +5,15 @@
 #include <limits>
 #include <new>
 #include <string>
+#include <vector>
+
+#if defined(__linux__)
+#include <fstream>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 using namespace ostrel;
 
@@ -48,3 +57,45 @@ TEST(LargeBuffer, ThrowsWithoutMemoryAndKeepsItsContent) {
         EXPECT_THROW(buffer.Grow(size), std::bad_alloc);
     EXPECT_EQ(buffer.View(), "kept");
 }
+
+#if defined(__linux__)
+
+namespace {
+
+/// Bytes of the process that count against its limit of data.
+rlim_t DataInUse() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmData:")) return std::stoull(line.substr(7)) * 1024;
+    return 0;
+}
+
+/// 0 where small buffers live with a limit of 256 MB, and a large one throws and lives on.
+int LiveWithLimit() {
+    rlimit limit{};
+    ::getrlimit(RLIMIT_DATA, &limit);
+    limit.rlim_cur = DataInUse() + (rlim_t{256} << 20);
+    if (::setrlimit(RLIMIT_DATA, &limit) != 0) return 1;
+    std::vector<LargeBuffer> buffers(20);
+    for (LargeBuffer& buffer : buffers) buffer.Append("small");
+    try {
+        buffers[0].Reserve(std::size_t{1} << 30);
+        return 2;
+    } catch (const std::bad_alloc&) {
+    }
+    buffers[0].Append(std::string(20 << 20, 'x'));
+    return buffers[0].View().starts_with("smallxxx") && buffers[19].View() == "small" ? 0 : 3;
+}
+
+} // namespace
+
+TEST(LargeBuffer, WhatIsKeptForGrowthCountsAgainstNoLimit) {
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) ::_exit(LiveWithLimit());
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+}
+
+#endif
