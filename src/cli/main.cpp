@@ -1,9 +1,15 @@
+#include <csignal>
+
 #include <CLI/CLI.hpp>
 
 #include "cli/CallCommand.h"
 #include "cli/ReferenceCommand.h"
 
 int main(int argc, char** argv) {
+#if defined(SIGXFSZ)
+    // A file that outgrows the user's limit is a failed write, and not the end of the program.
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
     CLI::App app("Reports, help pages and the many services of OstrelWebHelp from the command line.",
                  "ostrel");
     app.require_subcommand(1);
