@@ -10,8 +10,9 @@ namespace ostrel::services {
 class SortKeys;
 
 /// The passes of a Shell sort over items whose final order is known already. After a pass every chain of its
-/// gap is in order, and as no two items rank the same, that leaves one state only; so a pass may reach it
-/// by any way, and it takes linear time at worst.
+/// gap is in order, and as no two items rank the same, that leaves one state only. So a pass may reach it by
+/// any way: the items are dealt out to their chains in the order of their ranks, which takes the same linear
+/// time for every input.
 class ShellPasses {
 public:
     /// The items in the order in which they were added to the sorted keys. The first gap is half of `gap`.
@@ -24,14 +25,11 @@ public:
     void Put(Array<Long>& pointers) const;
 
 private:
-    /// The rank in the high half and the pointer in the low one: a comparison of items is one of ranks.
-    using Item = std::uint64_t;
-
     void Pass();
-    bool PassByInsertion();
-    void PassByRank();
 
-    std::vector<Item> items_;
+    std::vector<Long> pointers_;           ///< by rank
+    std::vector<std::uint32_t> positions_; ///< by rank, from 0
+    std::vector<std::uint32_t> next_;      ///< the place in each chain that is filled next
     std::size_t gap_;
 };
 
