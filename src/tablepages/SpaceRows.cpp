@@ -1,5 +1,7 @@
 #include "tablepages/SpaceRows.h"
 
+#include <algorithm>
+
 #include "html/Elements.h"
 #include "text/Enumerations.h"
 #include "text/NumberText.h"
@@ -18,7 +20,8 @@ void AddSpaceRows(GridRows& rows, const TableOptions& options, Long columns, Lon
         if (!height.empty()) html::AddHTMLTag(cell.tag, "HEIGHT", height);
         if (!colour.empty()) html::AddHTMLTag(cell.tag, "BGCOLOR", colour);
         cell.text = text;
-        GridRow& row = rows.emplace_back(columns);
+        // The record pages have a cell for it even where the main table shows no column.
+        GridRow& row = rows.emplace_back(std::max(columns, 1));
         if (GridCell* first = row.Find(1)) *first = std::move(cell);
     };
     const auto line = [&](TextView height) { add(height, "BLACK"); };
