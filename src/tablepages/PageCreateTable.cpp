@@ -7,6 +7,7 @@
 #include "services/TagText.h"
 #include "tablepages/HeaderTexts.h"
 #include "tablepages/ReportRun.h"
+#include "tablepages/SeparatePages.h"
 #include "tablepages/SortPages.h"
 #include "text/NumberText.h"
 
@@ -76,6 +77,7 @@ bool MakePages(ReportRun& run, Text& error) {
     if (!MakeMainPage(run, false, error)) return false;
     if (frame.filePath.empty()) return true;
     if (!MakeSortPages(run, error)) return false;
+    if (options.PageTableAddSeparate && !MakeSeparatePages(run, error)) return false;
 
     html::TellProgress(page, "Finished", 0);
     return true;

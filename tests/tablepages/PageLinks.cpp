@@ -2,7 +2,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <map>
 #include <memory>
 
 #include <libxml/HTMLparser.h>
@@ -38,23 +37,29 @@ PageLinks ReadLinks(const std::string& html) {
     return links;
 }
 
-std::vector<std::string> BrokenLinks(const std::filesystem::path& folder) {
+std::vector<std::string> BrokenLinks(const std::map<std::string, std::string>& files) {
     std::map<std::string, PageLinks> pages;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        std::ifstream file(entry.path(), std::ios::binary);
-        const bool page = entry.path().extension() == ".htm" || entry.path().extension() == ".html";
-        const std::string text{std::istreambuf_iterator<char>(file), {}};
-        pages[entry.path().filename().string()] = page ? ReadLinks(text) : PageLinks{};
+    for (const auto& [name, content] : files) {
+        const bool page = name.ends_with(".htm") || name.ends_with(".html");
+        pages[name] = page ? ReadLinks(content) : PageLinks{};
     }
     std::vector<std::string> broken;
     for (const auto& [name, links] : pages)
         for (const auto& target : links.targets) {
             const auto mark = target.find('#');
-            const std::string file = mark == 0 ? name : target.substr(0, mark);
-            const auto hit = pages.find(file);
+            const auto hit = pages.find(mark == 0 ? name : target.substr(0, mark));
             if (hit == pages.end() ||
                 (mark != std::string::npos && !hit->second.anchors.count(target.substr(mark + 1))))
                 broken.push_back(name + " -> " + target);
         }
     return broken;
+}
+
+std::vector<std::string> BrokenLinks(const std::filesystem::path& folder) {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        std::ifstream file(entry.path(), std::ios::binary);
+        files[entry.path().filename().string()] = {std::istreambuf_iterator<char>(file), {}};
+    }
+    return BrokenLinks(files);
 }

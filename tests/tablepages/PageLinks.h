@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,5 +14,8 @@ struct PageLinks {
 
 PageLinks ReadLinks(const std::string& html);
 
-/// The links of all pages in a folder that lead to no file in it, or to no anchor there: "page -> target".
+/// The links of all pages that lead to no file among these, or to no anchor there: "page -> target". Files
+/// are known by their names.
+std::vector<std::string> BrokenLinks(const std::map<std::string, std::string>& files);
+/// The same of all files in a folder.
 std::vector<std::string> BrokenLinks(const std::filesystem::path& folder);
