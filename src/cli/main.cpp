@@ -4,6 +4,7 @@
 
 #include "cli/CallCommand.h"
 #include "cli/ReferenceCommand.h"
+#include "cli/ReportCommand.h"
 
 int main(int argc, char** argv) {
 #if defined(SIGXFSZ)
@@ -15,6 +16,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     app.set_version_flag("--version", "0.1.0");
     int status = 0;
+    ostrel::cli::AddReportCommand(app, status);
     ostrel::cli::AddCallCommand(app, status);
     ostrel::cli::AddReferenceCommand(app, status);
     try {
