@@ -211,9 +211,10 @@ void ReportRun::PageDone(const Text& path, bool isNew, bool failed, Long bytes) 
 
 int ReportRun::MakePages() {
     Array<Text> names{std::vector<Text>(table_.nameHtml)};
+    const Array<Text> plainNames{std::vector<Text>(table_.names)};
     Array<Flag> right;
     for (ColumnType type : table_.types) right.Append(type != ColumnType::Text);
-    const CellTable cells(table_.cells.Cells(), table_.rows, table_.Columns());
+    const CellTable cells(table_.cells.Cells(), table_.rows, table_.Columns(), &plainNames);
     Text message;
     const bool made = web_->PageCreateTableFrom(Text(ReportFiles::Drive) + page_, TitleText(), names, right,
                                                 cells, message);

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -130,7 +131,10 @@ void AddCell(InputTable& table, const SqliteQuery& query, std::string_view value
 } // namespace
 
 bool IsSqliteFile(const std::string& path) {
-    std::FILE* file = path == "-" ? nullptr : std::fopen(path.c_str(), "rb");
+    // A pipe gives its bytes once, so only a plain file is looked into.
+    std::error_code error;
+    if (path == "-" || !std::filesystem::is_regular_file(path, error)) return false;
+    std::FILE* const file = std::fopen(path.c_str(), "rb");
     if (!file) return false;
     char head[16] = {};
     const std::size_t count = std::fread(head, 1, sizeof head, file);

@@ -28,13 +28,16 @@ public:
     CellTable() = default;
     explicit CellTable(const Grid<Text>& grid)
         : texts_(grid.Data()), rows_(grid.Rows()), columns_(grid.Columns()) {}
-    CellTable(const PackedCell* cells, Long rows, Long columns)
-        : packed_(cells), rows_(rows), columns_(columns) {}
+    /// `plainNames` are the plain values of the column names; null where these are to be stripped of tags.
+    CellTable(const PackedCell* cells, Long rows, Long columns, const Array<Text>* plainNames = nullptr)
+        : packed_(cells), plainNames_(plainNames), rows_(rows), columns_(columns) {}
 
     Long Rows() const { return rows_; }
     Long Columns() const { return columns_; }
     /// Whether plain values stand beside the HTML, so that they need no stripping.
     bool HasPlain() const { return packed_ != nullptr; }
+    /// The plain value of a column's name, or null.
+    const Text* PlainName(Long column) const { return plainNames_ ? plainNames_->Find(column) : nullptr; }
 
     TextView Html(Long row, Long column) const {
         if (!Holds(row, column)) return {};
@@ -56,6 +59,7 @@ private:
 
     const Text* texts_ = nullptr;
     const PackedCell* packed_ = nullptr;
+    const Array<Text>* plainNames_ = nullptr;
     Long rows_ = 0;
     Long columns_ = 0;
 };

@@ -82,6 +82,7 @@ Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool u
 }
 
 Text PlainName(const ReportFrame& frame, Long column) {
+    if (const Text* plain = frame.input.cells.PlainName(column)) return *plain;
     return services::StripTags(ReplaceAll(frame.Name(column), "<BR>", " "));
 }
 
