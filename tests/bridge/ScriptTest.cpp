@@ -74,7 +74,7 @@ TEST_P(ScriptTest, AnswersAsWritten) {
     EXPECT_GT(asked, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, ScriptTest, testing::ValuesIn(Scripts()), [](const auto& info) {
+INSTANTIATE_TEST_SUITE_P(Scripts, ScriptTest, testing::ValuesIn(Scripts()), [](const auto& script) {
     std::string name = info.param.stem().string();
     std::erase_if(name, [](unsigned char c) { return !std::isalnum(c); });
     return name;
