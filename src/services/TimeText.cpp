@@ -48,7 +48,7 @@ bool IsTime(TextView text, TextView delimiter) {
         const TextView part = text.substr(0, end);
         if (part.empty() || part.find_first_not_of("0123456789") != NotFound) return false;
         // Only the first part may pass 59.
-        if (++parts > most || (parts > 1 && LeadingNumber(part) > 59)) return false;
+        if (++parts > most || (parts > 1 && ToLong(part).value_or(60) > 59)) return false;
         if (end == NotFound) return parts > 1;
         text.remove_prefix(end + delimiter.size());
     }
