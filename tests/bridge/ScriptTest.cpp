@@ -75,7 +75,7 @@ TEST_P(ScriptTest, AnswersAsWritten) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, ScriptTest, testing::ValuesIn(Scripts()), [](const auto& script) {
-    std::string name = info.param.stem().string();
+    std::string name = script.param.stem().string();
     std::erase_if(name, [](unsigned char c) { return !std::isalnum(c); });
     return name;
 });
