@@ -35,7 +35,7 @@ struct Outcome {
     std::string out, errors;
 };
 
-Outcome Run(const TemporaryDirectory& directory, const std::string& arguments) {
+Outcome RunReport(const TemporaryDirectory& directory, const std::string& arguments) {
     const std::string command = "cd '" + directory.Path() + "' && '" + Program + "' report " + arguments +
                                 " >stdout.txt 2>stderr.txt </dev/null";
     const int result = std::system(command.c_str());
@@ -74,7 +74,7 @@ TEST(ReportCommand, ShowsWhatTheFileHeld) {
          }) {
         const TemporaryDirectory directory;
         directory.Write("in.csv", csv);
-        const Outcome outcome = Run(directory, "in.csv -o out " + options + MainPageAlone);
+        const Outcome outcome = RunReport(directory, "in.csv -o out " + options + MainPageAlone);
         EXPECT_EQ(outcome.status, 0) << outcome.errors;
         EXPECT_EQ(outcome.errors, "");
         EXPECT_EQ(ShownTable(directory.Read("out/in.htm")), shown) << csv;
@@ -144,7 +144,7 @@ TEST(ReportCommand, RefusesBadInputAndLeavesNothing) {
          }) {
         const TemporaryDirectory directory;
         directory.Write("in.csv", csv);
-        const Outcome outcome = Run(directory, arguments);
+        const Outcome outcome = RunReport(directory, arguments);
         EXPECT_EQ(outcome.status, status) << arguments;
         EXPECT_EQ(outcome.errors, "ostrel: " + sentence + "\n");
         EXPECT_EQ(outcome.out, "");
@@ -152,9 +152,9 @@ TEST(ReportCommand, RefusesBadInputAndLeavesNothing) {
         EXPECT_EQ(directory.Read("in.csv"), csv);
     }
     const TemporaryDirectory directory;
-    EXPECT_EQ(Run(directory, "in.csv").status, 2);
-    EXPECT_EQ(Run(directory, "in.csv -o out --nonsense").status, 2);
-    EXPECT_EQ(Run(directory, "--help").status, 0);
+    EXPECT_EQ(RunReport(directory, "in.csv").status, 2);
+    EXPECT_EQ(RunReport(directory, "in.csv -o out --nonsense").status, 2);
+    EXPECT_EQ(RunReport(directory, "--help").status, 0);
 }
 
 TEST(ReportCommand, MakesAFamilyWhoseLinksLead) {
@@ -166,8 +166,8 @@ TEST(ReportCommand, MakesAFamilyWhoseLinksLead) {
                ":30\n";
     directory.Write("my list.v2.csv", csv);
     // A point in the directory's name must not become part of a page's name.
-    const Outcome outcome =
-        Run(directory, "'my list.v2.csv' -o a.b/c.d --records=name,value --record-title Name --total Score");
+    const Outcome outcome = RunReport(
+        directory, "'my list.v2.csv' -o a.b/c.d --records=name,value --record-title Name --total Score");
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_EQ(directory.Names(), (std::set<std::string>{"a.b", "my list.v2.csv"}));
     const std::string pages = directory.Path("a.b/c.d");
@@ -181,8 +181,8 @@ TEST(ReportCommand, MakesAFamilyWhoseLinksLead) {
 
     std::map<std::string, std::filesystem::file_time_type> before;
     for (const std::string& name : names) before[name] = std::filesystem::last_write_time(pages + "/" + name);
-    const Outcome again =
-        Run(directory, "'my list.v2.csv' -o a.b/c.d --records=name,value --record-title Name --total Score");
+    const Outcome again = RunReport(
+        directory, "'my list.v2.csv' -o a.b/c.d --records=name,value --record-title Name --total Score");
     EXPECT_EQ(again.status, 0);
     EXPECT_NE(again.out.find("0 pages written"), std::string::npos) << again.out;
     for (const auto& [name, time] : before)
@@ -193,7 +193,7 @@ TEST(ReportCommand, SortsByWhatTheColumnsHold) {
     const TemporaryDirectory directory;
     directory.Write("in.csv", "n,d,t,s\n10,2024-03-01,9:30,b\n9,2023-12-31,10:05,B\n-1,2024-02-01,0:59,a\n");
     const auto firstColumn = [&](const std::string& options, const std::string& page, std::size_t column) {
-        EXPECT_EQ(Run(directory, "in.csv -o out --no-record-numbers " + options).status, 0);
+        EXPECT_EQ(RunReport(directory, "in.csv -o out --no-record-numbers " + options).status, 0);
         std::string values;
         for (const auto& row : ShownTable(directory.Read("out/" + page))) values += row[column] + " ";
         return values;
@@ -204,7 +204,7 @@ TEST(ReportCommand, SortsByWhatTheColumnsHold) {
     EXPECT_EQ(firstColumn("", "in_3_U.htm", 2), "t 0:59 9:30 10:05 ");
     EXPECT_EQ(firstColumn("--total n --total-format 0.0", "in.htm", 0), "n 10 9 -1 18.0 ");
     EXPECT_EQ(firstColumn("--total n", "in.htm", 0), "n 10 9 -1 18 ");
-    EXPECT_EQ(Run(directory, "in.csv -o one --sort s").status, 0);
+    EXPECT_EQ(RunReport(directory, "in.csv -o one --sort s").status, 0);
     EXPECT_TRUE(std::filesystem::exists(directory.Path("one/in_4_U.htm")));
     EXPECT_FALSE(std::filesystem::exists(directory.Path("one/in_1_U.htm")));
 }
@@ -212,16 +212,16 @@ TEST(ReportCommand, SortsByWhatTheColumnsHold) {
 TEST(ReportCommand, KeepsRawValuesInTheCsvBeside) {
     const TemporaryDirectory directory;
     directory.Write("in.csv", "a&b;c\n\"x <y>\";  1\n\"\"\"q\"\"\";caf\xC3\xA9\n");
-    EXPECT_EQ(Run(directory, "in.csv -o out --no-sort").status, 0);
+    EXPECT_EQ(RunReport(directory, "in.csv -o out --no-sort").status, 0);
     EXPECT_EQ(directory.Read("out/in.csv").substr(0, 6), "a&b,c\r");
     EXPECT_NE(directory.Read("out/in.csv").find("x <y>"), std::string::npos);
     EXPECT_NE(directory.Read("out/in.csv").find("caf\xE9"), std::string::npos);
     // Beside itself the input is left alone.
     const std::string csv = directory.Read("in.csv");
-    EXPECT_EQ(Run(directory, "in.csv -o . --no-sort").status, 0);
+    EXPECT_EQ(RunReport(directory, "in.csv -o . --no-sort").status, 0);
     EXPECT_EQ(directory.Read("in.csv"), csv);
     directory.Write("page.htm", csv);
-    EXPECT_EQ(Run(directory, "page.htm -o . --no-sort").status, 1);
+    EXPECT_EQ(RunReport(directory, "page.htm -o . --no-sort").status, 1);
     EXPECT_EQ(directory.Read("page.htm"), csv);
 }
 
@@ -237,7 +237,7 @@ TEST(ReportCommand, ReadsQueriesOfADatabase) {
               SQLITE_OK);
     const std::string before = directory.Read("shop.db");
     const auto shown = [&](const std::string& options) {
-        const Outcome outcome = Run(directory, "shop.db -o out " + options + MainPageAlone);
+        const Outcome outcome = RunReport(directory, "shop.db -o out " + options + MainPageAlone);
         EXPECT_EQ(outcome.status, 0) << outcome.errors;
         return ShownTable(directory.Read("out/shop.htm"));
     };
@@ -259,7 +259,7 @@ TEST(ReportCommand, ReadsQueriesOfADatabase) {
              {"--query 'DELETE FROM items RETURNING name'",
               "the query can't be run: attempt to write a readonly database."},
          }) {
-        const Outcome outcome = Run(directory, "shop.db -o none " + options);
+        const Outcome outcome = RunReport(directory, "shop.db -o none " + options);
         EXPECT_EQ(outcome.status, 1) << options;
         EXPECT_EQ(outcome.errors, "ostrel: shop.db: " + sentence + "\n");
     }
@@ -273,7 +273,7 @@ TEST(ReportCommand, NamesEveryPageThatCannotBeWritten) {
     // Nothing can take the place of a directory that is not empty, whoever runs the test.
     for (const char* taken : {"out/in_1_U.htm/x", "out/in_2_D.htm/x"})
         std::filesystem::create_directories(directory.Path(taken));
-    const Outcome outcome = Run(directory, "in.csv -o out");
+    const Outcome outcome = RunReport(directory, "in.csv -o out");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.errors.find("out/in_1_U.htm can't be written: "), std::string::npos) << outcome.errors;
     EXPECT_NE(outcome.errors.find("out/in_2_D.htm can't be written: "), std::string::npos) << outcome.errors;
