@@ -50,7 +50,7 @@ std::vector<std::vector<std::string>> ShownTable(const std::string& html) {
     const std::unique_ptr<xmlDoc, void (*)(xmlDocPtr)> document(
         htmlReadMemory(html.data(), static_cast<int>(html.size()), nullptr, "windows-1252",
                        HTML_PARSE_RECOVER | HTML_PARSE_NOERROR | HTML_PARSE_NOWARNING | HTML_PARSE_NONET |
-                           HTML_PARSE_HUGE),
+                           XML_PARSE_HUGE),
         xmlFreeDoc);
     std::vector<std::vector<std::string>> rows;
     if (document) CollectRows(xmlDocGetRootElement(document.get()), rows);
