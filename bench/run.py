@@ -84,7 +84,8 @@ class Bench:
         return middle(costs)
 
     def report(self, data: pathlib.Path, folder: str, *options, runs=None) -> Cost:
-        plain = ["--no-sort", "--no-records", "--no-record-numbers", "--no-csv"]
+        # The component's own default page, whose bytes the plain program writes.
+        plain = ["--plain", "--no-sort", "--no-records", "--no-record-numbers", "--no-csv"]
         for option in options:
             plain = [each for each in plain if each != option.replace("--", "--no-", 1)]
         costs = []
