@@ -15,6 +15,11 @@ constexpr std::size_t BlockSize = 64;
 constexpr std::size_t BlockReach = BlockSize + 2;
 
 bool PatternStarts(TextView text) {
+    // Tags such as <B> and <BR> come by the million; the next letter settles them.
+    const std::size_t name = text.size() > 1 && text[1] == '/' ? 2 : 1;
+    if (text.size() < name + 2) return false;
+    const char second = static_cast<char>(LowerByte(text[name + 1]));
+    if (second != 'o' && second != 't' && second != 'e') return false;
     return std::any_of(std::begin(Patterns), std::end(Patterns),
                        [&](TextView pattern) { return StartsWithText(text, pattern); });
 }
