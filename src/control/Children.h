@@ -48,7 +48,7 @@ struct DefaultButton {
     std::string_view tip;
 };
 
-enum ToolbarAction {
+enum ToolbarAction : int {
     ActionBack,
     ActionForward,
     ActionStop,

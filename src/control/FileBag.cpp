@@ -154,6 +154,8 @@ Text FormatBag(const MapBag& bag) {
 }
 
 void ParseBag(TextView text, MapBag& bag) {
+    constexpr TextView Mark = "\xEF\xBB\xBF";
+    if (text.starts_with(Mark)) text.remove_prefix(Mark.size());
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size());
         TextView line = text.substr(0, end);

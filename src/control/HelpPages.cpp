@@ -1,5 +1,6 @@
 #include "control/ControlFrame.h"
 #include "control/Guard.h"
+#include "control/PageScopeOf.h"
 #include "html/PageParts.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
@@ -54,7 +55,6 @@ Flag OstrelWebHelp::HelpPageLoad(const Text& HelpPage, Text& ErrorMessage) {
 Flag OstrelWebHelp::HelpPageLoadInternal(Text& ErrorMessage) {
     return Guarded([&]() -> Flag {
         ErrorMessage.clear();
-        const html::PageScope scope{context_, state_.help, state_.page, state_.fonts, state_.service};
         const Rope part1 = state_.help.HelpPart1, part2 = state_.help.HelpPart2,
                    part3 = state_.help.HelpPart3;
         if (part1.Empty() && part2.Empty() && part3.Empty()) {
@@ -64,7 +64,7 @@ Flag OstrelWebHelp::HelpPageLoadInternal(Text& ErrorMessage) {
         if (!DirectoryHelpStands(ErrorMessage)) return false;
         const Text robots = state_.help.HelpRobots;
         state_.help.HelpRobots = "NoIndex";
-        const Rope page = html::InternalBuild(scope, part1, part2, part3);
+        const Rope page = html::InternalBuild(PageScopeOf(context_, state_), part1, part2, part3);
         frame_->help.HelpPageText = page.ToText();
         const Text path = services::WorkFilePath(state_.service, state_.service.WorkFileNext);
         state_.help.HelpRobots = robots;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr Long CurrentUser = -2147483647;
 constexpr Long TextType = 1;
-const Text BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer\\";
+constexpr TextView BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer\\";
 
 } // namespace
 
@@ -124,14 +124,14 @@ void OstrelWebHelp::BrowserSetFooter(const Text& Value) { BrowserSetSetting("Pag
 
 Text OstrelWebHelp::BrowserGetSetting(const Text& KeyName, const Text& ValueName) {
     return Guarded([&]() -> Text {
-        const Variant value = QueryValue(CurrentUser, BrowserKey + KeyName, ValueName);
+        const Variant value = QueryValue(CurrentUser, Text(BrowserKey) + KeyName, ValueName);
         const Text* text = std::get_if<Text>(&value);
         return text ? *text : FromDouble(std::get<Double>(value));
     });
 }
 
 void OstrelWebHelp::BrowserSetSetting(const Text& KeyName, const Text& ValueName, const Text& Value) {
-    Guarded([&] { SetKeyValue(CurrentUser, BrowserKey + KeyName, ValueName, Value, TextType); });
+    Guarded([&] { SetKeyValue(CurrentUser, Text(BrowserKey) + KeyName, ValueName, Value, TextType); });
 }
 
 } // namespace ostrel

@@ -16,6 +16,7 @@ class Bag;
 class Children;
 struct ControlFrame;
 struct PropertyRow;
+enum ToolbarAction : int;
 /// The value of a property, by its kind.
 using PropertyValue = std::variant<Text, Flag, Long, Picture>;
 
@@ -445,8 +446,8 @@ private:
 
     // Toolbar
     Flag ButtonRegister(const Text& name, const Text& tip, Text& error);
-    void RunToolbarAction(int action);
-    void PressDefaultButton(int action);
+    void RunToolbarAction(ToolbarAction action);
+    void PressDefaultButton(ToolbarAction action);
     void GoAddress();
     void GoHomePage();
     void GoIndexPage();

@@ -5,7 +5,7 @@
 
 namespace ostrel {
 
-void OstrelWebHelp::RunToolbarAction(int action) {
+void OstrelWebHelp::RunToolbarAction(ToolbarAction action) {
     switch (action) {
     case ActionBack:
         GoBack();
@@ -36,7 +36,7 @@ void OstrelWebHelp::RunToolbarAction(int action) {
     }
 }
 
-void OstrelWebHelp::PressDefaultButton(int action) {
+void OstrelWebHelp::PressDefaultButton(ToolbarAction action) {
     FocusPane();
     Text word(DefaultButtons[static_cast<std::size_t>(action)].word);
     Flag kill = false;

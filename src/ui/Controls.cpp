@@ -1,6 +1,7 @@
 #include "ui/Controls.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "ui/Form.h"
 
@@ -20,6 +21,13 @@ Long LineOf(const std::vector<Text>& items, const UserValue& value) {
     if (!line) return -1;
     const auto hit = std::find(items.begin(), items.end(), *line);
     return hit == items.end() ? -1 : static_cast<Long>(hit - items.begin());
+}
+
+/// A flag, or a number that stands for one.
+std::optional<bool> FlagOf(const UserValue& value) {
+    if (const Flag* flag = std::get_if<Flag>(&value)) return bool(*flag);
+    if (const Long* number = std::get_if<Long>(&value)) return *number != 0;
+    return std::nullopt;
 }
 
 } // namespace
@@ -60,7 +68,7 @@ void CheckBox::Press() {
 }
 
 bool CheckBox::Enter(const UserValue& given) {
-    const Flag* flag = std::get_if<Flag>(&given);
+    const auto flag = FlagOf(given);
     if (!flag) return false;
     if (*flag != value) Press();
     return true;
@@ -88,7 +96,7 @@ void OptionButton::Press() {
 }
 
 bool OptionButton::Enter(const UserValue& given) {
-    const Flag* flag = std::get_if<Flag>(&given);
+    const auto flag = FlagOf(given);
     if (!flag) return false;
     if (*flag)
         Press();

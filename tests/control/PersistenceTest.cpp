@@ -167,8 +167,8 @@ TEST(Persistence, ValuesConvertOrArePassedOver) {
 
 TEST(FileBagText, KeepsWhatIsGood) {
     MapBag bag;
-    ParseBag("\xEF\xBB\xBF# from another editor\r\n"
-             "HelpDelay = 1\r\n"
+    ParseBag("\xEF\xBB\xBFHelpDelay = 1\r\n"
+             "# from another editor\r\n"
              "HelpDelay = 2\n"
              "HelpDelay = oops\n"
              "  PageTitle=\"a = \\\"b\\\" \\x41\\r\\n\"  \n"

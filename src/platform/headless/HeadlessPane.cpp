@@ -13,6 +13,8 @@ constexpr TextView BlankPage = "about:blank";
 constexpr std::size_t ChunkSize = 256 * 1024;
 /// What is kept of a page; titles, frames and texts come from there.
 constexpr std::size_t MostKept = 64 * 1024 * 1024;
+/// What is read of a frame inside it.
+constexpr std::size_t MostOfFrame = 4 * 1024 * 1024;
 constexpr std::size_t MostNoted = 100'000;
 constexpr int MostFrames = 64;
 constexpr int DeepestFrame = 8;
@@ -127,7 +129,10 @@ Text HeadlessPane::DocumentText(const Text& word) const {
 
 void HeadlessPane::Hold() {
     held_ = true;
+    if (!load_) return;
     load_.reset();
+    busy_ = false;
+    readyState_ = 4;
 }
 
 void HeadlessPane::Report(std::optional<Text> url, std::optional<Text> name, std::optional<bool> busy,
@@ -273,15 +278,25 @@ bool HeadlessPane::LoadFrames(const LoadPointer& load, const Text& url, const Te
         Flag cancel = false;
         sink_->BeforeNavigate2(address, name, cancel, false);
         if (!Runs(load)) return false;
-        Text content;
         const Text path = headless::LocalPath(inner);
-        std::uint64_t size = 0;
-        const bool fits = !path.empty() && files_.Size(path, size) && size <= MostKept;
-        if (cancel || !fits || !files_.Read(path, content)) continue;
+        Text content;
+        if (cancel || path.empty() || !files_.IsFile(path) || !ReadFrame(path, content)) continue;
         sink_->NavigateComplete2(inner, false);
         if (!Runs(load) || !LoadFrames(load, inner, content, depth + 1, budget)) return false;
         sink_->DocumentComplete(inner, false);
         if (!Runs(load)) return false;
+    }
+    return true;
+}
+
+bool HeadlessPane::ReadFrame(const Text& path, Text& content) {
+    std::unique_ptr<FileReader> reader;
+    if (!files_.Open(path, reader)) return false;
+    std::size_t count = ChunkSize;
+    Text chunk(ChunkSize, '\0');
+    while (count > 0 && content.size() < MostOfFrame) {
+        if (!reader->Read(chunk.data(), chunk.size(), count)) return false;
+        content.append(chunk, 0, count);
     }
     return true;
 }

@@ -111,6 +111,7 @@ private:
     void EndLoad(const LoadPointer& load);
     bool TellStates(const LoadPointer& load);
     bool LoadFrames(const LoadPointer& load, const Text& url, const Text& html, int depth, int& budget);
+    bool ReadFrame(const Text& path, Text& content);
     bool HasFrame(const Text& name) const;
     bool OpenFile(Load& load);
     void TellDownloadComplete();

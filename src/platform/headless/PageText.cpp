@@ -11,6 +11,12 @@ namespace {
 
 bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
+bool IsTag(TextView behindBracket, TextView name) {
+    if (!StartsWithText(behindBracket, name)) return false;
+    const char next = behindBracket.size() > name.size() ? behindBracket[name.size()] : '>';
+    return IsSpace(next) || next == '>' || next == '/';
+}
+
 /// The next tag of that name at or behind `from`: where it starts, and behind its ">".
 struct TagPlace {
     std::size_t start = NotFound;
@@ -20,10 +26,7 @@ struct TagPlace {
 
 TagPlace FindTag(TextView html, TextView name, std::size_t from) {
     for (std::size_t at = from; (at = html.find('<', at)) != NotFound; ++at) {
-        const TextView rest = html.substr(at + 1);
-        if (!StartsWithText(rest, name)) continue;
-        const char next = rest.size() > name.size() ? rest[name.size()] : '>';
-        if (!IsSpace(next) && next != '>' && next != '/') continue;
+        if (!IsTag(html.substr(at + 1), name)) continue;
         const std::size_t close = html.find('>', at);
         return {at, close == NotFound ? html.size() : close + 1};
     }
@@ -138,22 +141,21 @@ std::vector<InnerFrame> FramesOf(TextView html, std::size_t most) {
     std::vector<InnerFrame> frames;
     for (std::size_t at = 0; frames.size() < most && (at = html.find('<', at)) != NotFound;) {
         const TextView rest = html.substr(at + 1);
-        if (rest.starts_with("!--")) {
-            const std::size_t close = html.find("-->", at + 4);
-            if (close == NotFound) break;
-            at = close + 3;
+        const bool comment = rest.starts_with("!--");
+        const bool frame = IsTag(rest, "FRAME") || IsTag(rest, "IFRAME");
+        if (!comment && !frame) {
+            ++at;
             continue;
         }
-        TagPlace tag;
-        for (const TextView name : {TextView("FRAME"), TextView("IFRAME")})
-            if (!tag && StartsWithText(rest, name))
-                tag = FindTag(html.substr(0, html.find('>', at)), name, at);
-        if (tag && tag.start == at) {
-            const TextView text = html.substr(tag.start, tag.end - tag.start);
-            if (Text source = Attribute(text, "SRC"); !source.empty())
-                frames.push_back({Attribute(text, "NAME"), std::move(source)});
+        const TextView closing = comment ? "-->" : ">";
+        const std::size_t close = html.find(closing, at);
+        if (close == NotFound) break;
+        if (frame) {
+            const TextView tag = html.substr(at, close - at);
+            if (Text source = Attribute(tag, "SRC"); !source.empty())
+                frames.push_back({Attribute(tag, "NAME"), std::move(source)});
         }
-        ++at;
+        at = close + closing.size();
     }
     return frames;
 }
