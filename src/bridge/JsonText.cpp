@@ -1,5 +1,6 @@
 #include "bridge/JsonText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -11,10 +12,19 @@ namespace ostrel::bridge {
 
 namespace {
 
-/// The deepest nesting of brackets outside strings. The library's tree is taken apart level by level, so this
-/// is known before it is built.
-int DeepestNesting(std::string_view line) {
-    int depth = 0, deepest = 0;
+/// A line of more values than this is refused: the tree of a value takes many times its bytes on the line.
+constexpr std::size_t MaxValues = 20'000'000;
+
+/// What a line holds outside its strings.
+struct Shape {
+    int deepest = 0;        ///< nesting of brackets
+    std::size_t values = 1; ///< at most that many
+};
+
+/// The library builds its tree, and takes it apart, at any cost; so the line is looked over before.
+Shape ShapeOf(std::string_view line) {
+    Shape shape;
+    int depth = 0;
     bool inString = false;
     for (std::size_t i = 0; i < line.size(); ++i) {
         const char c = line[i];
@@ -23,13 +33,16 @@ int DeepestNesting(std::string_view line) {
             if (c == '"') inString = false;
         } else if (c == '"') {
             inString = true;
+        } else if (c == ',') {
+            ++shape.values;
         } else if (c == '{' || c == '[') {
-            deepest = std::max(deepest, ++depth);
+            ++shape.values;
+            shape.deepest = std::max(shape.deepest, ++depth);
         } else if (c == '}' || c == ']') {
             --depth;
         }
     }
-    return deepest;
+    return shape;
 }
 
 /// What stands for one character of a string, and how many bytes of it; 0 for a byte that stands for itself.
@@ -113,8 +126,11 @@ std::string_view ShortestDigits(Floating value, std::array<char, 32>& buffer) {
 } // namespace
 
 Json ParseRequest(std::string_view line) {
-    if (DeepestNesting(line) > MaxNesting)
+    const Shape shape = ShapeOf(line);
+    if (shape.deepest > MaxNesting)
         throw Refusal("The line is nested deeper than " + std::to_string(MaxNesting) + " levels.");
+    if (shape.values > MaxValues)
+        throw Refusal("The line holds more than " + std::to_string(MaxValues) + " values.");
     // The library takes a NUL for the end of its input.
     if (line.find('\0') != std::string_view::npos) throw Refusal("The line is no JSON object.");
     Json request = Json::parse(line.begin(), line.end(), nullptr, false);
