@@ -30,7 +30,7 @@ Text SafeWord(const std::string& option, const std::string& word) {
 /// Padding, stripes and lines by a style sheet, since attributes would have to stand in every cell.
 Text StyleSheet(const Text& font, const Text& headerColour, const Text& linkColour, bool striped) {
     Text style = "<META NAME=\"viewport\" CONTENT=\"width=device-width\">\r\n<STYLE>\r\n";
-    style += "body { margin: 2em; color: #1F2933; font: 15px/1.45 " + font + "; }\r\n";
+    style += "body { margin: 2em; color: #1F2933; font: 14px/1.45 " + font + "; }\r\n";
     style += "p { margin: 0.4em 0; }\r\n";
     style += "table { margin: 1.2em 0; font: inherit; font-variant-numeric: tabular-nums; "
              "border-collapse: collapse; }\r\n";
@@ -41,8 +41,9 @@ Text StyleSheet(const Text& font, const Text& headerColour, const Text& linkColo
     if (striped)
         style += Text("tr:nth-child(odd) td:not([bgcolor]) { background: ") + DefaultRowColour + "; }\r\n";
     style += "tr:hover td:not([bgcolor]) { background: #E9F1FB; }\r\n";
-    style += "a { color: " + linkColour + "; text-decoration: none; }\r\n";
-    style += "a:hover { text-decoration: underline; }\r\n";
+    style += "td[align=right] { white-space: nowrap; }\r\n";
+    style += "a[href] { color: " + linkColour + "; text-decoration: none; }\r\n";
+    style += "a[href]:hover { text-decoration: underline; }\r\n";
     style += "</STYLE>";
     return style;
 }

@@ -1,10 +1,12 @@
 #include <csignal>
+#include <string>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/CallCommand.h"
 #include "cli/ReferenceCommand.h"
 #include "cli/ReportCommand.h"
+#include "control/Version.h"
 
 int main(int argc, char** argv) {
 #if defined(SIGXFSZ)
@@ -14,7 +16,9 @@ int main(int argc, char** argv) {
     CLI::App app("Reports, help pages and the many services of OstrelWebHelp from the command line.",
                  "ostrel");
     app.require_subcommand(1);
-    app.set_version_flag("--version", "0.1.0");
+    app.set_version_flag("--version", std::to_string(ostrel::VersionMajor) + "." +
+                                          std::to_string(ostrel::VersionMinor) + "." +
+                                          std::to_string(ostrel::VersionRevision));
     int status = 0;
     ostrel::cli::AddReportCommand(app, status);
     ostrel::cli::AddCallCommand(app, status);

@@ -42,9 +42,6 @@ Children::Children() {
         defaults_[i]->tip = DefaultButtons[i].tip;
         defaults_[i]->visible = false;
     }
-    // The pane reports when going becomes possible; nothing is loading yet.
-    for (const ToolbarAction action : {ActionBack, ActionForward, ActionStop})
-        Default(action).enabled = false;
     template_.visible = false;
 
     lblURL.caption = "Address:";

@@ -213,9 +213,9 @@ TEST(ToolbarMembers, FindButtonsByTokenOrName) {
     EXPECT_EQ(bench.web->ToolbarButtonLeft("nobody"), -1);
     EXPECT_TRUE(bench.web->ToolbarButtonVisible("Mine"));
     EXPECT_FALSE(bench.web->ToolbarButtonVisible("nobody"));
-    EXPECT_FALSE(bench.web->ToolbarButtonEnabled("forward"));
-    bench.web->ToolbarButtonEnabledSet("forward", true);
-    EXPECT_TRUE(bench.web->View().Find("cmdNext")->enabled);
+    EXPECT_TRUE(bench.web->ToolbarButtonEnabled("forward"));
+    bench.web->ToolbarButtonEnabledSet("forward", false);
+    EXPECT_FALSE(bench.web->View().Find("cmdNext")->enabled);
     bench.web->ToolbarButtonMousePointerSet("mine", 11);
     EXPECT_EQ(bench.web->ToolbarButtonMousePointer("MINE"), 11);
     bench.web->ToolbarButtonMousePointerSet("nobody", 11);
