@@ -75,6 +75,12 @@ TEST_F(HeadlessPaneTest, FramesWithoutEndStaySmall) {
     files.Add("C:\\self.htm", page);
     EXPECT_LT(Load("C:\\self.htm").size(), 300u);
     EXPECT_EQ(sink.log.back(), "End");
+    page.clear();
+    for (int i = 0; i < 200'000; ++i) page += "<iframe <!- <title ";
+    for (const char* end : {"", ">", "-->"}) {
+        files.Add("C:\\open.htm", page + end);
+        EXPECT_EQ(Load("C:\\open.htm").back(), "End") << end;
+    }
 }
 
 TEST_F(HeadlessPaneTest, ReadsTheTitleOutOfThePage) {
