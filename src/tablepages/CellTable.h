@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "text/Array.h"
+#include "text/Prefetch.h"
 
 namespace ostrel {
 
@@ -48,7 +49,30 @@ public:
         return packed_ ? packed_[At(row, column)].Plain() : TextView(texts_[At(row, column)]);
     }
 
+    /// Asks for the cells of a row ahead of their use, for walks in another order than that of the rows.
+    void PrefetchCells(Long row) const {
+        if (!Holds(row, 1)) return;
+        const auto* cells = packed_ ? reinterpret_cast<const char*>(packed_ + At(row, 1))
+                                    : reinterpret_cast<const char*>(texts_ + At(row, 1));
+        const std::size_t size =
+            static_cast<std::size_t>(columns_) * (packed_ ? sizeof(PackedCell) : sizeof(Text));
+        for (std::size_t at = 0; at < std::min(size, MostPrefetched); at += CacheLine) Prefetch(cells + at);
+    }
+    /// Asks for the texts of a row whose cells are at hand by now.
+    void PrefetchTexts(Long row) const {
+        if (!packed_ || !Holds(row, 1)) return;
+        // The texts of a row lie next to each other.
+        const char* const first = packed_[At(row, 1)].html;
+        const char* const last = packed_[At(row, columns_)].html;
+        Prefetch(first);
+        if (last > first && last < first + MostPrefetched)
+            for (const char* at = first + CacheLine; at < last + CacheLine; at += CacheLine) Prefetch(at);
+    }
+
 private:
+    static constexpr std::size_t CacheLine = 64;
+    static constexpr std::size_t MostPrefetched = 1024;
+
     bool Holds(Long row, Long column) const {
         return row >= 1 && row <= rows_ && column >= 1 && column <= columns_;
     }

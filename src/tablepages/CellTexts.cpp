@@ -30,7 +30,7 @@ CellTexts::CellTexts(const ReportFrame& frame)
     }
 }
 
-TextView CellTexts::Linked(const html::PageScope& page, Long sourceColumn, TextView value) {
+TextView CellTexts::MakeLink(const html::PageScope& page, Long sourceColumn, TextView value) {
     address_ = *frame_.options.PageTableColumnLink.Find(sourceColumn);
     address_.append(".").append(html::CreateAnchorName(value));
     return links_[static_cast<std::size_t>(sourceColumn)] = html::CreateLinkTitleSplit(
@@ -40,7 +40,7 @@ TextView CellTexts::Linked(const html::PageScope& page, Long sourceColumn, TextV
 
 CellTexts::Pieces CellTexts::Data(Long sourceRow, Long sourceColumn) {
     TextView value = frame_.input.cells.Html(sourceRow, sourceColumn);
-    if (linked_[static_cast<std::size_t>(sourceColumn)]) value = Linked(silent_, sourceColumn, value);
+    if (Linked(sourceColumn)) value = MakeLink(silent_, sourceColumn, value);
     return Filled(value) ? Pieces{before_, value, after_} : Pieces{};
 }
 
@@ -103,8 +103,8 @@ void CellTexts::TestLinks(Long sourceRow, bool numbered) {
     for (const Long column : frame_.columns.shown) {
         if (column == 0) {
             if (numbered && frame_.options.PageTableAddSeparate) RecordText(page, record_, sourceRow);
-        } else if (linked_[static_cast<std::size_t>(column)]) {
-            Linked(page, column, frame_.input.cells.Html(sourceRow, column));
+        } else if (Linked(column)) {
+            MakeLink(page, column, frame_.input.cells.Html(sourceRow, column));
         }
     }
 }

@@ -26,17 +26,23 @@ public:
     /// The value alone where it is the plain text of the whole but for edge blanks; null data otherwise.
     TextView SimpleValue(const Pieces& pieces) const;
 
-    /// Makes the links of a row for the missing files that they tell the host of.
-    void TestLinks(Long sourceRow, bool numbered);
-
-private:
-    TextView Linked(const html::PageScope& page, Long sourceColumn, TextView value);
-    void RecordText(const html::PageScope& page, Text& text, Long sourceRow);
+    /// Whether a value fills its cell.
     bool Filled(TextView value) const {
         if (value.empty()) return false;
         const char first = value[0];
         return (first != ' ' && first != '0' && first != point_) || !frame_.rules.Blank(value);
     }
+    /// What stands in front of and behind the value of every filled cell.
+    const Text& Before() const { return before_; }
+    const Text& After() const { return after_; }
+    bool Linked(Long sourceColumn) const { return linked_[static_cast<std::size_t>(sourceColumn)]; }
+
+    /// Makes the links of a row for the missing files that they tell the host of.
+    void TestLinks(Long sourceRow, bool numbered);
+
+private:
+    TextView MakeLink(const html::PageScope& page, Long sourceColumn, TextView value);
+    void RecordText(const html::PageScope& page, Text& text, Long sourceRow);
 
     const ReportFrame& frame_;
     HelpProperties silentHelp_;

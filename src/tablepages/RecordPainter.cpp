@@ -22,6 +22,7 @@ RecordPainter::RecordPainter(const ReportFrame& frame, const MainTable& main)
                             frame.align.bodyVAlign, true};
         column.width = options.PageTableColumnWidth.Get(source);
         column.plain = MakeTags(kept_, column, {});
+        column.plainCells = source > 0 && column.width.empty() && !texts_.Linked(source);
     }
 }
 
@@ -90,11 +91,26 @@ html::CellView RecordPainter::TextCell(const Column& column, const GridRow& row,
     return {{}, cell->text, {}, passing_.Intern(tag)};
 }
 
-void RecordPainter::Paint(html::TableWriter& table, Long place, Long first, Long record) {
-    if (passing_.Size() > MostTagsKept) {
-        for (Column& column : columns_) column.given = {};
-        passing_.Clear();
+void RecordPainter::FillRow(Long place, Long record) {
+    const RecordGrid::Row row = main_.grid.At(place);
+    const CellTable& given = frame_.input.tags;
+    const bool anyGiven = given.Rows() > 0, odd = record % 2 != 0;
+    html::CellView* cell = cells_.data();
+    for (Column& column : columns_) {
+        if (!column.plainCells || (anyGiven && !given.Html(row.source, column.source).empty())) {
+            *cell++ = DataCell(column, place, record);
+            continue;
+        }
+        const TextView value = frame_.input.cells.Html(row.source, column.source);
+        if (texts_.Filled(value))
+            *cell++ = {texts_.Before(), value, texts_.After(), column.plain[true][odd]};
+        else
+            *cell++ = {{}, {}, {}, column.plain[false][odd]};
     }
+}
+
+/// A row of which some cells come from elsewhere or are texts.
+void RecordPainter::FillMixedRow(Long place, Long first, Long record) {
     const bool text = main_.IsText(place), firstText = first != place && main_.IsText(first);
     for (Column& column : columns_) {
         const bool own = first == place || !column.ofRecord;
@@ -104,6 +120,17 @@ void RecordPainter::Paint(html::TableWriter& table, Long place, Long first, Long
         else
             cell = DataCell(column, own ? place : first, record);
     }
+}
+
+void RecordPainter::Paint(html::TableWriter& table, Long place, Long first, Long record) {
+    if (passing_.Size() > MostTagsKept) {
+        for (Column& column : columns_) column.given = {};
+        passing_.Clear();
+    }
+    if (first == place && !main_.IsText(place))
+        FillRow(place, record);
+    else
+        FillMixedRow(place, first, record);
     if (!exposed_.empty()) {
         const bool own = first == place || !columns_[static_cast<std::size_t>(exposedColumn_ - 1)].ofRecord;
         html::CellView& cell = cells_[static_cast<std::size_t>(exposedColumn_ - 1)];

@@ -37,7 +37,8 @@ private:
     struct Column {
         Long source = 0;
         Long grid = 0;
-        bool ofRecord = true; ///< the same in all rows of a record
+        bool ofRecord = true;    ///< the same in all rows of a record
+        bool plainCells = false; ///< neither links nor a width, nor the record number
         CellRules::Placement placement;
         Text width;        ///< stated by the first filled cell
         Long widthRow = 0; ///< the source row of that cell
@@ -46,6 +47,8 @@ private:
         Tags ofGiven{};
     };
 
+    void FillRow(Long place, Long record);
+    void FillMixedRow(Long place, Long first, Long record);
     html::CellView DataCell(Column& column, Long place, Long record);
     html::CellView TextCell(const Column& column, const GridRow& row, Long record);
     const html::TagInfo* DataTag(Column& column, TextView given, bool filled, Long record);

@@ -109,6 +109,18 @@ Long SortOrder::PlaceAt(Long position) const {
     return places_.empty() ? pointer - 1 : places_[static_cast<std::size_t>(pointer - 1)];
 }
 
+void SortOrder::PrefetchAround(Long position) const {
+    constexpr Long near = 6, far = 12;
+    const RecordGrid& grid = run_.main->grid;
+    const auto sourceAt = [&](Long ahead) -> Long {
+        if (position + ahead >= Count()) return 0;
+        const Long place = PlaceAt(position + ahead);
+        return place < 0 ? 0 : grid.At(place).source;
+    };
+    run_.frame.input.cells.PrefetchCells(sourceAt(far));
+    run_.frame.input.cells.PrefetchTexts(sourceAt(near));
+}
+
 bool SortOrder::SortedByHost(bool up) {
     Events& events = run_.frame.Around().events;
     if (!Heard()) return false;

@@ -34,6 +34,8 @@ public:
     /// The place in the main table of the row at a position counted from 0; -1 where the host left a pointer
     /// that points nowhere.
     Long PlaceAt(Long position) const;
+    /// Asks for the cells of the rows that come next on a walk in sorted order.
+    void PrefetchAround(Long position) const;
     /// The place that the columns of the record are taken from.
     Long FirstOf(Long place) const {
         return origins_.empty() || place < 0 ? place : origins_[static_cast<std::size_t>(place)];

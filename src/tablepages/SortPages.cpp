@@ -14,6 +14,7 @@
 #include "tablepages/TitleBlock.h"
 #include "text/CodePage.h"
 #include "text/Enumerations.h"
+#include "text/NumberText.h"
 
 namespace ostrel::tablepages {
 
@@ -120,10 +121,10 @@ void SortPages::AddToTotals(Long place, Long first) {
     for (Totals::Column& total : run_.totals.Columns()) {
         const bool ofRow = frame_.options.PageTableColumnSubRecord.Get(total.source);
         const TextView plain = painter_.Texts().Plain(CellText(place, first, total.grid));
-        if (total.time)
+        if (!total.time)
+            Totals::AddNumber(total, LeadingNumber(plain), page || ofRow, true);
+        else if (plain.find_first_of("<&") == NotFound)
             Totals::AddSeconds(total, services::CellTimeSeconds(plain), page || ofRow, true);
-        else
-            Totals::AddNumber(total, services::CellNumericValue(plain), page || ofRow, true);
     }
 }
 
@@ -202,6 +203,7 @@ void SortPages::WriteRows(html::TableWriter& table) {
     std::size_t group = 0;
     Long place = -1;
     for (Long position = 0; position < order_.Count(); ++position) {
+        order_.PrefetchAround(position);
         if (group < groupStarts_.size() && groupStarts_[group] == position) {
             painter_.Paint(table, above);
             painter_.Paint(table,
