@@ -33,7 +33,7 @@ Text StyleSheet(const Text& font, const Text& headerColour, const Text& linkColo
     style += "body { margin: 2em; color: #1F2933; font: 14px/1.45 " + font + "; }\r\n";
     style += "p { margin: 0.4em 0; }\r\n";
     style += "table { margin: 1.2em 0; font: inherit; font-variant-numeric: tabular-nums; "
-             "border-collapse: collapse; }\r\n";
+             "border-collapse: separate; }\r\n";
     style += "td { padding: 0.3em 0.8em; vertical-align: top; border-bottom: 1px solid #E1E6EC; }\r\n";
     style +=
         "td[bgcolor=\"" + headerColour +
