@@ -43,7 +43,8 @@ void HeadlessPane::Listen(BrowserSink* sink) {
     load_.reset();
     history_.clear();
     place_ = 0;
-    canForward_ = canBack_ = false;
+    canForward_.reset();
+    canBack_.reset();
     if (held_) return;
     busy_ = false;
     readyState_ = 0;

@@ -126,8 +126,9 @@ private:
     Page page_;
     std::vector<Text> history_;
     std::size_t place_ = 0;
-    bool canForward_ = false;
-    bool canBack_ = false;
+    /// What was told of going; nothing before the first page.
+    std::optional<bool> canForward_;
+    std::optional<bool> canBack_;
     LoadPointer load_;
     /// Dies with the pane, so that posted work finds out.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
