@@ -46,10 +46,10 @@ void EventDesk::Hear(EventBase& event, std::span<const ArgumentRef> arguments) {
     for (const auto& rule : rules) {
         if (rule->nth > 0 && ++rule->heard != rule->nth) continue;
         if (rule->nth > 0) DropRule(event.Name(), rule.get());
-        for (const auto& [place, value] : rule->set)
+        for (const Assignment& one : rule->set)
             std::visit(
-                [&](auto* target) { *target = std::get<std::remove_pointer_t<decltype(target)>>(value); },
-                arguments[place]);
+                [&](auto* target) { *target = std::get<std::remove_pointer_t<decltype(target)>>(one.value); },
+                arguments[one.place]);
         for (const Json& request : rule->requests) carryOut_(request);
     }
 }
@@ -75,7 +75,7 @@ void EventDesk::AddRule(const EventBase& event, const Json& request) {
                 [&, &json = json, &name = name](const auto* kind) {
                     std::remove_cvref_t<decltype(*kind)> value{};
                     Read(json, Place{name}, value);
-                    rule->set.emplace_back(index, std::move(value));
+                    rule->set.push_back({index, std::move(value)});
                 },
                 kinds[index]);
         }

@@ -35,10 +35,14 @@ private:
     using ArgumentValue =
         std::variant<Text, Flag, Integer, Long, Single, Double, Array<Text>, Array<Long>, Grid<Text>>;
 
+    struct Assignment {
+        std::size_t place; ///< of the argument
+        ArgumentValue value;
+    };
     struct Rule {
         long long nth = 0; ///< 0 for each time
         long long heard = 0;
-        std::vector<std::pair<std::size_t, ArgumentValue>> set;
+        std::vector<Assignment> set;
         Json requests = Json::array();
     };
     using Rules = std::vector<std::shared_ptr<Rule>>;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "control/Guard.h"
 #include "services/CountryCode.h"
 #include "services/Settings.h"
@@ -112,7 +114,10 @@ void OstrelWebHelp::WaitMilliSeconds(Long MilliSeconds) {
 
 void OstrelWebHelp::WaitSeconds(Long Seconds) {
     Guarded([&] {
-        for (Long second = 0; second < Seconds; ++second) Wait(context_, 1000);
+        // As long a wait at a time as milliseconds can tell.
+        constexpr Long most = 2'000'000;
+        for (; Seconds > 0; Seconds -= std::min(Seconds, most))
+            Wait(context_, std::min(Seconds, most) * 1000);
     });
 }
 
