@@ -22,7 +22,7 @@ std::string Attempt(const Work& work) {
         work();
         return {};
     } catch (const Refusal& refusal) {
-        return refusal.what();
+        return refusal.sentence;
     } catch (const std::bad_alloc&) {
         return "There is not enough memory for this request.";
     } catch (...) {

@@ -3,6 +3,7 @@
 #include "bridge/Arguments.h"
 #include "bridge/Bridge.h"
 #include "bridge/Forms.h"
+#include "text/CodePage.h"
 
 namespace ostrel::bridge {
 
@@ -26,7 +27,7 @@ constexpr std::array<StepWord, 8> StepWords{{{"set", Verb::Set},
 Verb VerbOf(const Text& word) {
     for (const StepWord& row : StepWords)
         if (row.word == word) return row.verb;
-    throw Refusal("Step [" + word + "] does not exist.");
+    RefuseUnknown("Step", ToUtf8(word));
 }
 
 UserValue ReadUserValue(const Json& json) {
@@ -69,7 +70,7 @@ UserStep ReadStep(const Json& json) {
 void Bridge::QueueUser(const Json& request, CallAnswer&) {
     Text name;
     Read(request.at("form"), Place{"form"}, name);
-    if (!FindForm(name)) throw Refusal("Form [" + name + "] does not exist.");
+    if (!FindForm(name)) RefuseUnknown("Form", ToUtf8(name));
     std::vector<UserStep> steps;
     if (const auto list = request.find("do"); list != request.end()) {
         RequireArray(*list, Place{"do"});

@@ -2,6 +2,7 @@
 #include "bridge/Bridge.h"
 #include "bridge/FieldValues.h"
 #include "control/Children.h"
+#include "text/CodePage.h"
 
 namespace ostrel::bridge {
 
@@ -11,14 +12,14 @@ MouseAction MouseActionOf(const Text& word) {
     if (word == "Down") return MouseAction::Down;
     if (word == "Move") return MouseAction::Move;
     if (word == "Up") return MouseAction::Up;
-    throw Refusal("Mouse action [" + word + "] does not exist.");
+    RefuseUnknown("Mouse action", ToUtf8(word));
 }
 
 } // namespace
 
 const Child& Bridge::ChildOf(const Text& name) const {
     const Child* child = web_->View().Find(name);
-    if (!child) throw Refusal("Child [" + name + "] does not exist.");
+    if (!child) RefuseUnknown("Child", ToUtf8(name));
     return *child;
 }
 

@@ -13,10 +13,6 @@ const std::string& NameIn(const Json& request, const char* verb, const char* wha
     return name.get_ref<const std::string&>();
 }
 
-[[noreturn]] void RefuseUnknown(const char* what, const std::string& name) {
-    throw Refusal(std::string(what) + " [" + name + "] does not exist.");
-}
-
 /// The index of an indexed property; 0 for a single one.
 Long IndexIn(const Json& request, const PropertyRow& row) {
     const auto index = request.find("index");

@@ -3,6 +3,7 @@
 
 #include "bridge/Arguments.h"
 #include "bridge/Bridge.h"
+#include "text/CodePage.h"
 
 namespace ostrel::bridge {
 
@@ -132,7 +133,7 @@ void Bridge::Browser(const Json& request, CallAnswer& answer) {
             if (!sink) throw Refusal("Nobody listens to the pane.");
             return event.raise(*sink, arguments, answer);
         }
-    throw Refusal("Pane event [" + name + "] does not exist.");
+    RefuseUnknown("Pane event", ToUtf8(name));
 }
 
 } // namespace ostrel::bridge

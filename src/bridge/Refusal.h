@@ -1,15 +1,21 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace ostrel::bridge {
 
-/// Why a request is not carried out, as a full sentence. It is thrown before anything has changed and caught
-/// where the line is answered.
-class Refusal : public std::runtime_error {
-public:
-    explicit Refusal(const std::string& sentence) : std::runtime_error(sentence) {}
+/// Why a request is not carried out, as a full sentence in UTF-8. It is thrown before anything has changed
+/// and caught where the line is answered.
+struct Refusal {
+    explicit Refusal(std::string text) : sentence(std::move(text)) {}
+    std::string sentence;
 };
+
+/// For a name that nothing has; in UTF-8, too.
+[[noreturn]] inline void RefuseUnknown(std::string_view what, const std::string& name) {
+    throw Refusal(std::string(what) + " [" + name + "] does not exist.");
+}
 
 } // namespace ostrel::bridge
