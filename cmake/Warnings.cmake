@@ -12,5 +12,7 @@ endif()
 if(OSTREL_SANITIZE)
     target_compile_options(ostrel_options INTERFACE -fsanitize=${OSTREL_SANITIZE} -fno-sanitize-recover=all
                                                     -fno-omit-frame-pointer)
+    # With the sanitizers' checks in between, g++ warns of members of the standard library.
+    target_compile_options(ostrel_options INTERFACE -Wno-maybe-uninitialized)
     target_link_options(ostrel_options INTERFACE -fsanitize=${OSTREL_SANITIZE})
 endif()

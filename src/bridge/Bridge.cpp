@@ -108,6 +108,7 @@ std::string Bridge::Answer(std::string_view line) {
         const Json request = ParseRequest(line);
         id = IdOf(request);
         const bool quiet = IsQuiet(request);
+        events_.NoteEvents(!quiet);
         inner_ = 0;
         // Real time has gone on since the last line. Virtual time stands still.
         if (!platform_.VirtualTime() && platform_.clock->Pending()) platform_.clock->Yield();

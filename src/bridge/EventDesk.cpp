@@ -38,7 +38,7 @@ void EventDesk::Note(const EventBase& event, std::span<const ArgumentRef> argume
 }
 
 void EventDesk::Hear(EventBase& event, std::span<const ArgumentRef> arguments) {
-    Note(event, arguments);
+    if (noting_) Note(event, arguments);
     const auto found = rules_.find(event.Name());
     if (found == rules_.end()) return;
     // The requests may add and drop rules; what stood at the start is carried out.

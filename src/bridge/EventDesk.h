@@ -28,6 +28,8 @@ public:
     void AddRule(const EventBase& event, const Json& request);
     void DropRules(std::string_view event);
 
+    /// Whether events are noted. Some carry whole tables, which nobody should write down in vain.
+    void NoteEvents(bool note) { noting_ = note; }
     /// The inside of a JSON array of the events since the last time; empty for none.
     std::string TakeEvents() { return std::exchange(events_, {}); }
 
@@ -51,6 +53,7 @@ private:
     void Note(const EventBase& event, std::span<const ArgumentRef> arguments);
 
     std::function<void(const Json&)> carryOut_;
+    bool noting_ = true;
     std::string events_;
     std::unordered_map<std::string_view, Rules> rules_;
 };

@@ -6,6 +6,8 @@ namespace ostrel {
 inline void Prefetch(const void* address) {
 #if defined(__GNUC__)
     __builtin_prefetch(address);
+    // Without a visible effect the compiler drops functions that only prefetch.
+    __asm__ volatile("" : : "r"(address));
 #else
     static_cast<void>(address);
 #endif

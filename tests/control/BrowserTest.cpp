@@ -264,6 +264,7 @@ TEST(PaneEvents, ANewControlFindsAFreshPane) {
     bench.Clock().Advance(1000);
     EXPECT_EQ(bench.log.back(), "StatusTextChange Web Help - Terminate");
     OstrelWebHelp next(bench.platform);
+    EXPECT_FALSE(next.Offline());
     EXPECT_TRUE(next.GoBack());
     bench.Clock().Advance(0);
     EXPECT_EQ(next.LocationURL(), "about:blank") << "there is nothing to go back to";

@@ -45,6 +45,7 @@ void HeadlessPane::Listen(BrowserSink* sink) {
     place_ = 0;
     canForward_.reset();
     canBack_.reset();
+    offline_ = false;
     if (held_) return;
     busy_ = false;
     readyState_ = 0;
