@@ -113,8 +113,10 @@ bool WriteCsvFile(Context& context, const Text& title, const Text& path, const A
     }
     Rope whole;
     whole.Append(nullptr, room.View());
-    // As with pages: what has not changed is left alone, and so is its date.
-    if (!createBackup && FileEquals(*context.platform.files, path, whole)) return true;
+    // As with pages: what has not changed is left alone, and so is its date. A name without a directory is
+    // refused below, whatever lies in the current one.
+    if (!createBackup && path.find('\\') != NotFound && FileEquals(*context.platform.files, path, whole))
+        return true;
     return WriteFileFull(context, title, path, whole, error, {createBackup, false, true});
 }
 

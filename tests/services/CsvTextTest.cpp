@@ -81,4 +81,15 @@ TEST(CsvText, WritesRecordsAndStops) {
     }
 }
 
+TEST(CsvText, WantsAFullPath) {
+    TestPlatform platform;
+    platform.Disk().Add("a.csv", "N\r\n1\r\n");
+    const auto cell = [](Long, Long) { return TextView("1"); };
+    Text message;
+    LargeBuffer room;
+    EXPECT_FALSE(
+        WriteCsvFile(platform.context, "", "a.csv", Array<Text>{"N"}, cell, 1, 1, message, ",", false, room));
+    EXPECT_EQ(message, "Path [a.csv] is not a full one.");
+}
+
 } // namespace ostrel::services
