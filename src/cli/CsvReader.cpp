@@ -83,9 +83,10 @@ bool CsvReader::ReadRecord(std::size_t& count) {
     if (!SkipEmptyLines()) return false;
     recordLine_ = line_;
     for (;;) {
+        const std::size_t line = line_; // the value may end it
         const End end = ReadValue();
         if (++count > MaxColumns)
-            FailAtLine(line_, "the row has more than " + std::to_string(MaxColumns) + " values.");
+            FailAtLine(line, "the row has more than " + std::to_string(MaxColumns) + " values.");
         if (end != End::Value) return true;
     }
 }

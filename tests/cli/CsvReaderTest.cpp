@@ -81,6 +81,8 @@ TEST(CsvReader, NamesTheLineOfWhatIsWrong) {
               "input, line 3: a value is not UTF-8; --encoding windows-1252 may be what it is."},
              {"a\n" + std::string(CsvReader::MaxColumns, ','),
               "input, line 2: the row has more than 10000 values."},
+             {"a\n" + std::string(CsvReader::MaxColumns, ',') + "\n",
+              "input, line 2: the row has more than 10000 values."},
          })
         EXPECT_EQ(FaultOf(text, {',', TextEncoding::Unknown}), fault) << text.substr(0, 40);
     EXPECT_EQ(ReadAll(std::string(CsvReader::MaxColumns - 1, ','), {}).front().size(), CsvReader::MaxColumns);
