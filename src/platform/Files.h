@@ -16,6 +16,7 @@ namespace ostrel {
 struct FileResult {
     Long number = 0;
     Text text;
+    bool ofBackup = false; ///< it was the backup of the file that could not be kept
     explicit operator bool() const { return number == 0; }
 };
 

@@ -23,6 +23,10 @@ bool Failed(const FileResult& result, Text& error) {
     return true;
 }
 
+Text NotRenamed(const Text& path, const FileResult& result) {
+    return "File [" + path + "] was not renamed - " + result.text;
+}
+
 /// The files that a path or mask stands for.
 std::vector<Text> Matching(Files& files, const Text& path) {
     const Text directory = path.substr(0, path.find_last_of("\\/:") + 1);
@@ -160,7 +164,7 @@ bool FileRename(Files& files, const Text& path, const Text& newName, Text& error
     if (FileExists(files, target))
         error = "New File [" + target + "] exists.";
     else if (const FileResult result = files.Rename(path, target); !result)
-        error = "File [" + path + "] was not renamed - " + result.text;
+        error = NotRenamed(path, result);
     return error.empty();
 }
 
@@ -229,7 +233,9 @@ bool WriteFileFull(Context& context, const Text& title, const Text& path, const 
             return false;
         }
     }
-    return !Failed(files.Replace(file, output.Pieces(), backup), error);
+    const FileResult result = files.Replace(file, output.Pieces(), backup);
+    if (!result) error = result.ofBackup ? NotRenamed(file, result) : result.text;
+    return static_cast<bool>(result);
 }
 
 bool FileEquals(Files& files, const Text& path, const Rope& content) {

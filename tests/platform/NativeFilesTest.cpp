@@ -255,6 +255,11 @@ TEST_F(NativeFilesTest, ReplacingKeepsModeLinksAndBackup) {
     EXPECT_EQ(directory.Read("page.htm"), "eight");
     EXPECT_EQ(directory.Read("page.bak"), "seven");
 
+    // A backup that can't be kept costs nothing.
+    const FileResult refused = Replace(page, "nine", directory.Component("sub"));
+    EXPECT_TRUE(!refused && refused.ofBackup);
+    EXPECT_EQ(directory.Read("page.htm"), "eight");
+
     // A new file needs no backup.
     ASSERT_TRUE(Replace(directory.Component("fresh.htm"), "x", directory.Component("fresh.bak")));
     EXPECT_EQ(directory.Names(), (std::set<std::string>{"chain.htm", "dangling.htm", "fresh.htm", "loop.htm",

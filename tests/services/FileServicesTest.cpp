@@ -205,6 +205,17 @@ TEST(FileServices, SafeWrite) {
     }
 }
 
+TEST(FileServices, SafeWriteTellsOfABackupThatFailed) {
+    TestPlatform platform;
+    platform.Disk().Add("C:\\d\\a.htm", "old");
+    platform.Disk().directories.insert("C:\\d\\a.bak");
+    Text error;
+    EXPECT_FALSE(
+        WriteFileFull(platform.context, "", "C:\\d\\a.htm", Pieces({"new"}), error, {true, false, true}));
+    EXPECT_EQ(error, "File [C:\\d\\a.htm] was not renamed - Path/File access error");
+    EXPECT_EQ(platform.Disk().files["C:\\d\\a.htm"], "old");
+}
+
 TEST(FileServices, AFailedCallNeverCostsTheOldFile) {
     for (const bool backup : {false, true}) {
         for (int failAt = 1;; ++failAt) {

@@ -53,6 +53,7 @@ public:
         if (!Turn()) return failure;
         if (directories.contains(Bare(path))) return {75, "Path/File access error"};
         if (!directories.contains(DirectoryOf(path))) return {76, "Path not found"};
+        if (directories.contains(Bare(backup))) return {75, "Path/File access error", true};
         ++replaces;
         if (!backup.empty() && files.contains(path)) files[backup] = files[path];
         Text content;

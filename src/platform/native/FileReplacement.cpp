@@ -72,10 +72,11 @@ int WriteStraight(SystemCalls& calls, const std::string& path, std::span<const T
     return device.Close() == 0 ? 0 : errno;
 }
 
-/// One attempt; `again` tells whether another one with a named temporary file may go better.
+/// One attempt; `again` tells whether another one with a named temporary file may go better, `ofBackup`
+/// whether it was the backup that failed.
 int TryToReplace(SystemCalls& calls, std::string path, std::span<const TextView> pieces,
-                 const std::string& backup, TemporaryFile::Kind kind, bool& again) {
-    again = false;
+                 const std::string& backup, TemporaryFile::Kind kind, bool& again, bool& ofBackup) {
+    again = ofBackup = false;
     std::optional<struct stat> old;
     if (const int error = FollowLinks(calls, path, old)) return error;
     if (old) {
@@ -89,7 +90,10 @@ int TryToReplace(SystemCalls& calls, std::string path, std::span<const TextView>
     int error = file.Open(kind);
     if (!error && old) error = file.Resemble(*old);
     if (!error) error = file.Write(pieces);
-    if (!error && old && !backup.empty()) error = KeepBackup(calls, path, *old, backup);
+    if (!error && old && !backup.empty()) {
+        error = KeepBackup(calls, path, *old, backup);
+        ofBackup = error != 0;
+    }
     if (!error) error = old ? file.PlaceInstead() : file.PlaceNew();
     again = file.WorthAnotherAttempt();
     return error;
@@ -99,12 +103,15 @@ int TryToReplace(SystemCalls& calls, std::string path, std::span<const TextView>
 
 FileResult ReplaceFile(SystemCalls& calls, const std::string& path, std::span<const TextView> pieces,
                        const std::string& backup) {
-    bool again = true;
+    bool again = true, ofBackup = false;
     int error = 0;
     for (const auto kind :
          {TemporaryFile::Kind::Unnamed, TemporaryFile::Kind::Named, TemporaryFile::Kind::Named})
-        if (again) error = TryToReplace(calls, path, pieces, backup, kind, again);
-    return error ? PathFailure(calls, path, error) : FileResult{};
+        if (again) error = TryToReplace(calls, path, pieces, backup, kind, again, ofBackup);
+    if (!error) return {};
+    FileResult result = PathFailure(calls, path, error);
+    result.ofBackup = ofBackup;
+    return result;
 }
 
 FileResult PathFailure(SystemCalls& calls, const std::string& path, int error) {
