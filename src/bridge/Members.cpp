@@ -14,6 +14,7 @@ std::span<const Family> Families() {
         {"Tables", TableMembers()},
         {"Pages", PageMembers()},
         {"Tags and content", TagMembers()},
+        {"Colours", ColourMembers()},
         {"Paths and files", FileMembers()},
         {"Sorts and settings", SettingsMembers()},
         {"Browser pane", BrowserMembers()},

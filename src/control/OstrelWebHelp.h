@@ -309,6 +309,21 @@ public:
     Text RemoveDoubleTag(const Text& InputString, const Text& Tag, const Text& SubTag, Flag TrimBlanks);
     Long SearchCount(const Text& InputString, const Text& SearchString, Flag MatchCase, Flag WholeWords);
 
+    // Colours
+
+    /// The browser's hexadecimal form of a system colour, with lower-case digits.
+    Text ColourActualToHex(Long Colour);
+    /// The browser's name of a system colour, or its hexadecimal form in capitals.
+    Text ColourActualToName(Long Colour);
+    /// The system colour of a hexadecimal form; -1 for any other text.
+    Long ColourHexToActual(const Text& Colour);
+    /// The name of a hexadecimal form, or the text trimmed and in capitals.
+    Text ColourHexToName(const Text& Colour);
+    /// The hexadecimal form of a name, in capitals; empty for an unknown name.
+    Text ColourNameToHex(const Text& Colour);
+    /// The system colour of a name or a hexadecimal form; -1 for any other text.
+    Long ColourNameToActual(const Text& Colour);
+
     // Paths and files
 
     Text BuildPath(const Text& Directory, const Text& File);

@@ -13,6 +13,7 @@ std::vector<Member> ElementMembers();
 std::vector<Member> TableMembers();
 std::vector<Member> PageMembers();
 std::vector<Member> TagMembers();
+std::vector<Member> ColourMembers();
 std::vector<Member> FileMembers();
 std::vector<Member> SettingsMembers();
 std::vector<Member> BrowserMembers();
