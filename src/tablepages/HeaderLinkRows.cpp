@@ -12,6 +12,8 @@ namespace {
 
 /// No table has more link rows than this at one position, whatever numbers the host gave them.
 constexpr Long MaxLinkRows = 32000;
+/// Nor more memory in them.
+constexpr std::size_t MaxLinkBytes = std::size_t{64} << 20;
 constexpr TextView Gap = "&nbsp; ";
 
 HeaderLinks::Format FormatOf(const TableScope& scope, Long row, Long mask) {
@@ -101,6 +103,12 @@ void FillRow(GridRow& row, const TableOptions& options, Long columns, const Text
     }
 }
 
+std::size_t BytesOf(const GridRow& row) {
+    std::size_t bytes = static_cast<std::size_t>(row.Width()) * sizeof(GridCell);
+    for (Long column = 1; column <= row.Width(); ++column) bytes += row.Find(column)->text.size();
+    return bytes;
+}
+
 } // namespace
 
 void AddHeaderLinkRows(GridRows& rows, const TableScope& scope, const HeaderLinkPlace& place) {
@@ -113,7 +121,8 @@ void AddHeaderLinkRows(GridRows& rows, const TableScope& scope, const HeaderLink
 
     const bool reversed = place.position > 2;
     const long long last = std::min<long long>(highest, static_cast<long long>(lowest) + MaxLinkRows - 1);
-    for (long long number = lowest; number <= last; ++number) {
+    std::size_t bytes = 0;
+    for (long long number = lowest; number <= last && bytes < MaxLinkBytes; ++number) {
         // At the foot the first row stands nearest the table, too.
         const auto linkRow = static_cast<Long>(reversed ? highest + 1LL - number : number);
         const HeaderLinks::Format format = FormatOf(scope, linkRow, mask);
@@ -125,8 +134,9 @@ void AddHeaderLinkRows(GridRows& rows, const TableScope& scope, const HeaderLink
             side += LinkHTML(scope, place, link, format);
         }
         if (left.empty() && right.empty() && highest <= 1) return;
-        FillRow(rows.emplace_back(std::max(place.columns, 2)), scope.options, place.columns, left, right,
-                format);
+        GridRow& row = rows.emplace_back(std::max(place.columns, 2));
+        FillRow(row, scope.options, place.columns, left, right, format);
+        bytes += BytesOf(row);
     }
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "tablepages/ReportHost.h"
 #include "text/Enumerations.h"
 
@@ -215,6 +217,17 @@ TEST(HeaderLinks, Limits) {
     EXPECT_EQ(links.MaxRow(), 0);
     EXPECT_EQ(links.show[0], false);
     EXPECT_EQ(links.show[1], true);
+}
+
+TEST(HeaderLinks, FarRowsStayWithinMemory) {
+    ReportHost host;
+    host.Table({"A"}, {{"x"}});
+    host.Options().PageTableAddRight = Text(1'000'000, ' ');
+    Text error;
+    for (const Long row : {std::numeric_limits<Long>::min(), std::numeric_limits<Long>::max()})
+        host.state.headerLinks.Add({"n", "", "", false, row, 0}, error);
+    ASSERT_TRUE(host.Make());
+    EXPECT_LT(host.Page("report.htm").size(), 80'000'000U);
 }
 
 } // namespace ostrel::test
