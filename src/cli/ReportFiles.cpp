@@ -124,7 +124,9 @@ FileResult ReportFiles::Replace(const Text& path, std::span<const TextView> piec
         result = {75, "It is the input itself"};
     else
         result = native_->Replace(*inside, pieces, backup.empty() ? backup : Inside(backup).value_or(Text()));
-    if (!result) lastReason_ = result.text;
+    if (result) return result;
+    lastFailed_ = path;
+    lastReason_ = result.text.ends_with('.') ? result.text.substr(0, result.text.size() - 1) : result.text;
     return result;
 }
 

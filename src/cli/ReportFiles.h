@@ -24,7 +24,8 @@ public:
     /// What would be wrong with it, found out without making anything.
     static std::string Trouble(const std::string& directory);
 
-    /// Why the last write failed.
+    /// The last file that could not be written, empty for none, and why, without a point.
+    const Text& LastFailed() const { return lastFailed_; }
     const Text& LastReason() const { return lastReason_; }
     /// `name`, a file's name in the report's directory, is the input itself.
     bool IsInput(const std::string& directory, const Text& name) const;
@@ -65,7 +66,7 @@ private:
     std::string system_;    ///< a system path of it, in ASCII, with a slash behind
     Text base_;             ///< the same for the native files
     int handle_ = -1;
-    Text lastReason_;
+    Text lastFailed_, lastReason_;
 };
 
 } // namespace ostrel::cli

@@ -219,7 +219,10 @@ int ReportRun::MakePages() {
     const bool made = web_->PageCreateTableFrom(Text(ReportFiles::Drive) + page_, TitleText(), names, right,
                                                 cells, message);
     progress_.Clear();
-    return Tell(made, message);
+    // No event tells of the CSV file, and the message does not name it.
+    const bool csvFailed = !made && failures_.empty() && !files_->LastFailed().empty();
+    if (csvFailed) failures_[files_->LastFailed()] = files_->LastReason();
+    return Tell(made || csvFailed, message);
 }
 
 int ReportRun::Tell(bool made, const Text& message) const {

@@ -277,8 +277,14 @@ TEST(ReportCommand, NamesEveryPageThatCannotBeWritten) {
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.errors.find("out/in_1_U.htm can't be written: "), std::string::npos) << outcome.errors;
     EXPECT_NE(outcome.errors.find("out/in_2_D.htm can't be written: "), std::string::npos) << outcome.errors;
+    EXPECT_EQ(outcome.errors.find(".."), std::string::npos) << outcome.errors;
     EXPECT_EQ(std::count(outcome.errors.begin(), outcome.errors.end(), '\n'), 2);
     EXPECT_TRUE(std::filesystem::is_regular_file(directory.Path("out/in_2_U.htm")));
+
+    std::filesystem::create_directories(directory.Path("other/in.csv/x"));
+    const Outcome csv = RunReport(directory, "in.csv -o other");
+    EXPECT_EQ(csv.status, 1);
+    EXPECT_EQ(csv.errors.find("ostrel: other/in.csv can't be written: "), 0U) << csv.errors;
 }
 
 /// The program with its standard error in a pipe, so that a test can send it signals while it works.
