@@ -207,6 +207,16 @@ TEST_F(NativeFilesTest, ReadsWholeFilesAndPieces) {
     EXPECT_TRUE(joined == content);
 }
 
+TEST_F(NativeFilesTest, ReadsNothingThatMayNotEnd) {
+    ASSERT_EQ(::mkfifo(directory.Path("pipe.htm").c_str(), 0600), 0);
+    for (const Text& path : {directory.Component("pipe.htm"), Text("C:\\dev\\zero"), directory.Component()}) {
+        Text content;
+        std::unique_ptr<FileReader> reader;
+        EXPECT_FALSE(files.Read(path, content)) << path;
+        EXPECT_FALSE(files.Open(path, reader)) << path;
+    }
+}
+
 TEST_F(NativeFilesTest, ReplacesByManyPieces) {
     std::vector<Text> texts;
     std::vector<TextView> pieces;

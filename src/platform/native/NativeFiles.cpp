@@ -39,6 +39,16 @@ int ReadFully(SystemCalls& calls, int file, char* buffer, std::size_t size, std:
     return 0;
 }
 
+/// A pipe without a writer would keep the opening waiting; plain files do not mind.
+constexpr int ForReading = O_RDONLY | O_NONBLOCK | O_NOCTTY;
+
+/// 0 for an open plain file, else an error: pipes and devices may never come to an end.
+int StatusOfPlain(SystemCalls& calls, const OpenFile& file, struct stat& status) {
+    if (calls.FileStatus(file.Number(), status) != 0) return errno;
+    if (S_ISDIR(status.st_mode)) return EISDIR;
+    return S_ISREG(status.st_mode) ? 0 : EOPNOTSUPP;
+}
+
 class NativeReader final : public FileReader {
 public:
     NativeReader(SystemCalls& calls, int file) : calls_(calls), file_(calls, file) {}
@@ -90,10 +100,10 @@ FileResult NativeFiles::Read(const Text& path, Text& content) try {
     constexpr std::size_t piece = std::size_t{64} << 10;
     const auto place = paths_.ToSystem(path);
     if (!place) return NoSuchPlace();
-    OpenFile file(calls_, calls_.Open(place->c_str(), O_RDONLY));
+    OpenFile file(calls_, calls_.Open(place->c_str(), ForReading));
     if (!file) return PathFailure(calls_, *place, errno);
     struct stat status;
-    if (calls_.FileStatus(file.Number(), status) != 0) return Failure(errno);
+    if (const int error = StatusOfPlain(calls_, file, status)) return Failure(error);
 
     // One byte more than the size tells the end of the file in the same call. The size is only a hint, since
     // the file may grow or shrink meanwhile.
@@ -117,11 +127,10 @@ FileResult NativeFiles::Read(const Text& path, Text& content) try {
 FileResult NativeFiles::Open(const Text& path, std::unique_ptr<FileReader>& reader) {
     const auto place = paths_.ToSystem(path);
     if (!place) return NoSuchPlace();
-    OpenFile file(calls_, calls_.Open(place->c_str(), O_RDONLY));
+    OpenFile file(calls_, calls_.Open(place->c_str(), ForReading));
     if (!file) return PathFailure(calls_, *place, errno);
     struct stat status;
-    if (calls_.FileStatus(file.Number(), status) != 0) return Failure(errno);
-    if (S_ISDIR(status.st_mode)) return Failure(EISDIR);
+    if (const int error = StatusOfPlain(calls_, file, status)) return Failure(error);
     reader = std::make_unique<NativeReader>(calls_, file.Take());
     return {};
 }
