@@ -43,17 +43,23 @@ struct CallOptions {
 int RunCall(const CallOptions& options) {
     LimitMemory();
     std::ios::sync_with_stdio(false);
-    if (options.file.empty() || options.file == "-") {
-        AnswerLines(std::cin, std::cout, options.virtualClock);
-        return 0;
-    }
-    std::ifstream file(options.file, std::ios::binary);
-    if (!file) {
-        std::cerr << "ostrel call: can't read file [" << options.file << "].\n";
+    const bool standardInput = options.file.empty() || options.file == "-";
+    std::ifstream file;
+    if (!standardInput) file.open(options.file, std::ios::binary);
+    const auto fail = [&] {
+        std::cerr << "ostrel call: can't read "
+                  << (standardInput ? "standard input" : "file [" + options.file + "]") << ".\n";
         return 1;
+    };
+    if (!file) return fail();
+    try {
+        AnswerLines(standardInput ? std::cin : file, std::cout, options.virtualClock);
+    } catch (const std::ios_base::failure&) {
+        return fail();
     }
-    AnswerLines(file, std::cout, options.virtualClock);
-    return 0;
+    if (std::cout) return 0;
+    std::cerr << "ostrel call: can't write the answers.\n";
+    return 1;
 }
 
 } // namespace
@@ -62,7 +68,7 @@ void AnswerLines(std::istream& input, std::ostream& output, bool virtualClock) {
     HeadlessPlatform platform = MakeHeadlessPlatform(virtualClock);
     bridge::Bridge bridge(platform);
     std::string line;
-    for (;;) {
+    while (output) {
         const LineRead read = ReadLine(*input.rdbuf(), line);
         if (read == LineRead::End) return;
         output << (read == LineRead::Whole ? bridge.Answer(line)

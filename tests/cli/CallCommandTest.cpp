@@ -1,7 +1,12 @@
 #include "cli/CallCommand.h"
 
+#include <cstdlib>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include <sys/wait.h>
 
 #include <gtest/gtest.h>
 
@@ -28,6 +33,21 @@ TEST(CallCommand, AnswersLineByLineToTheEndOfTheInput) {
     // Line ends of both sorts, and a last line without one.
     EXPECT_EQ(Answers("{\"id\":1,\"call\":\"CreateBreak\"}\r\n"), first);
     EXPECT_EQ(Answers("{\"id\":1,\"call\":\"CreateBreak\"}"), first);
+}
+
+TEST(CallCommand, EndsWithAFailureWhereItsStreamsFail) {
+    for (const auto& [streams, expected] : std::vector<std::pair<std::string, int>>{
+             {"/dev/null >/dev/full", 0},
+             {"- </proc/self/status >/dev/full", 1},
+             {"/ >/dev/null", 1},
+             {"- </ >/dev/null", 1},
+             {"/nowhere >/dev/null", 1},
+         }) {
+        const std::string command = OSTREL_BINARY_DIR "/ostrel call " + streams + " 2>/dev/null";
+        const int result = std::system(command.c_str());
+        EXPECT_TRUE(WIFEXITED(result)) << streams;
+        EXPECT_EQ(WEXITSTATUS(result), expected) << streams;
+    }
 }
 
 } // namespace
