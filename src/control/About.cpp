@@ -15,9 +15,9 @@ void OstrelWebHelp::ShowAboutBox() {
                         .disclaimer = {}});
         form.icon = state_.control.Icon;
         if (const Screen* screen = context_.platform.screen.get()) {
-            const Bounds area = screen->Area();
-            form.left = area.left + (area.width - form.width) / 2;
-            form.top = area.top + (area.height - form.height) / 2;
+            const Bounds place = CentreOnScreen({0, 0, form.width, form.height}, screen->Area());
+            form.left = place.left;
+            form.top = place.top;
         }
         form.Show(context_.platform);
     });

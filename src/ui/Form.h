@@ -20,6 +20,8 @@ struct KeyStroke {
 
 /// Where a form of that size stands so that it lies on the screen; one that is larger sticks to the top left.
 Bounds FitOnScreen(Bounds form, const Bounds& area);
+/// The same in the middle of the screen.
+Bounds CentreOnScreen(Bounds form, const Bounds& area);
 
 /// A window as a model: named controls and their handlers, no pixels. A screen shows it, a user works it.
 class Form {

@@ -1,4 +1,6 @@
-#include <gtest/gtest.h>
+#include <limits>
+
+#include <limits>
 
 #include "support/MemoryFiles.h"
 #include "ui/MessageBox.h"
@@ -167,6 +169,15 @@ TEST(FitOnScreen, TheLaterRuleWins) {
                                                          {{-5, -5, 100, 50}, {0, 0, 100, 50}},
                                                          {{300, 300, 2000, 900}, {0, 0, 2000, 900}}})
         EXPECT_EQ(FitOnScreen(form, {0, 0, 1000, 800}), expected);
+}
+
+TEST(FitOnScreen, TakesAnyScreenAndAnyForm) {
+    constexpr Long most = std::numeric_limits<Long>::max(), least = std::numeric_limits<Long>::min();
+    const Bounds wide{most, least, 100, 50};
+    EXPECT_EQ(FitOnScreen(wide, {most, most, most, most}), (Bounds{most, most, 100, 50}));
+    EXPECT_EQ(FitOnScreen(wide, {least, least, least, least}), (Bounds{least, least, 100, 50}));
+    EXPECT_EQ(CentreOnScreen(wide, {most, least, most, least}), (Bounds{most, least, 100, 50}));
+    EXPECT_EQ(CentreOnScreen(wide, {10, 20, 1000, 800}), (Bounds{460, 395, 100, 50}));
 }
 
 TEST(MessageBoxes, EndByTheirMostHarmlessAnswer) {
