@@ -1,6 +1,6 @@
 #include <limits>
 
-#include <limits>
+#include <gtest/gtest.h>
 
 #include "support/MemoryFiles.h"
 #include "ui/MessageBox.h"
