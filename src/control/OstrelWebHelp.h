@@ -416,8 +416,9 @@ public:
 
     /// The visual children with their places.
     const Children& View() const;
-    /// A real press: of a toolbar button by its token, of a user button by its name, of `cmdStop` or
-    /// `cmdURL`, or Enter in `txtURL`. False, with nothing done, where it is hidden, disabled or unknown.
+    /// A real press: of a toolbar button by its token or its child's name, of a user button by its name or
+    /// its child's, of `cmdStop` or `cmdURL`, or Enter in `txtURL`. False, with nothing done, where it is
+    /// hidden, disabled or unknown.
     Flag PressChild(const Text& Name);
     /// The user changes the text of a child. False where it takes none.
     Flag TypeIntoChild(const Text& Name, const Text& Value);

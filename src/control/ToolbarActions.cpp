@@ -91,25 +91,23 @@ void OstrelWebHelp::GoAddress() {
 Flag OstrelWebHelp::PressChild(const Text& Name) {
     return Guarded([&]() -> Flag {
         const Children& children = frame_->children;
-        const Text token = Lower(TrimBlanks(Name));
-        if (const ToolbarAction action = ActionOfToken(token); action != ActionCount) {
-            if (!children.Default(action).Reachable()) return false;
-            PressDefaultButton(action);
+        // The widgets press by the names of children, so no name of a user button may come before those.
+        const Child* child = Name.empty() ? nullptr : children.Find(Name);
+        if (!child) child = FindToolbarButton(*frame_, Name);
+        if (!child || !child->Reachable()) return false;
+        for (int action = 0; action < ActionCount; ++action) {
+            if (&children.Default(static_cast<ToolbarAction>(action)) != child) continue;
+            PressDefaultButton(static_cast<ToolbarAction>(action));
             return true;
         }
-        if (const Child* button = FindToolbarButton(*frame_, token)) {
-            if (!button->Reachable()) return false;
-            for (std::size_t i = 0; i < frame_->buttons.size(); ++i) {
-                if (children.UserButton(static_cast<Long>(i) + 1) != button) continue;
-                FocusPane();
-                Flag kill = false;
-                Text word = frame_->buttons[i].name;
-                events.ToolbarClick(word, kill);
-                return true;
-            }
+        for (std::size_t i = 0; i < frame_->buttons.size(); ++i) {
+            if (children.UserButton(static_cast<Long>(i) + 1) != child) continue;
+            FocusPane();
+            Flag kill = false;
+            Text word = frame_->buttons[i].name;
+            events.ToolbarClick(word, kill);
+            return true;
         }
-        const Child* child = children.Find(Name);
-        if (!child || !child->Reachable()) return false;
         if (child == &children.cmdStop) {
             FocusPane();
             run_.StopRequested = run_.StopPressed = true;

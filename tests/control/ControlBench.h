@@ -1,12 +1,9 @@
 #pragma once
 
-#include <cmath>
-#include <sstream>
-
 #include "control/Children.h"
 #include "control/OstrelWebHelp.h"
+#include "support/EventLine.h"
 #include "support/MemoryFiles.h"
-#include "text/NumberText.h"
 #include "ui/ScriptedUser.h"
 
 namespace ostrel::test {
@@ -20,7 +17,7 @@ public:
         : platform(MakeHeadlessPlatform(true, std::make_unique<MemoryFiles>())), user(platform),
           web(std::make_unique<OstrelWebHelp>(
               platform, [this](EventBase& event, std::span<const ArgumentRef> arguments) {
-                  log.push_back(Describe(event, arguments));
+                  log.push_back(EventLine(event, arguments));
               })) {
         web->PropertyChanged = [this](const Text& name) { changed.push_back(name); };
         if (start == Start::Init) web->InitProperties();
@@ -45,28 +42,6 @@ public:
     std::vector<Text> log;
     std::vector<Text> changed;
     std::unique_ptr<OstrelWebHelp> web;
-
-private:
-    static Text Describe(EventBase& event, std::span<const ArgumentRef> arguments) {
-        Text line(event.Name());
-        for (const ArgumentRef& argument : arguments) {
-            line += ' ';
-            std::visit(
-                [&](auto* value) {
-                    using Value = std::remove_pointer_t<decltype(value)>;
-                    if constexpr (std::is_same_v<Value, Text>)
-                        line += *value;
-                    else if constexpr (std::is_same_v<Value, Flag>)
-                        line += *value ? "True" : "False";
-                    else if constexpr (std::is_arithmetic_v<Value>)
-                        line += FromDouble(static_cast<double>(*value));
-                    else
-                        line += "...";
-                },
-                argument);
-        }
-        return line;
-    }
 };
 
 using Lines = std::vector<Text>;

@@ -237,13 +237,14 @@ TEST(ToolbarClicks, GoTheirWay) {
     EXPECT_FALSE(bench.web->PressChild("nobody"));
     EXPECT_TRUE(bench.Take().empty());
     EXPECT_TRUE(bench.web->PressChild("REFRESH"));
-    EXPECT_TRUE(bench.web->PressChild("Home"));
+    EXPECT_TRUE(bench.web->PressChild("cmdHome"));
     EXPECT_TRUE(bench.web->PressChild("full"));
     EXPECT_TRUE(bench.web->PressChild("mine"));
+    EXPECT_TRUE(bench.web->PressChild("cmdButton(1)"));
     EXPECT_TRUE(bench.web->PressChild("open"));
     EXPECT_EQ(bench.Take(),
               (Lines{"ToolbarClick Refresh False", "ToolbarClick Home False", "ToolbarClick Full False",
-                     "ToolbarClick Mine False", "ToolbarClick Open False"}));
+                     "ToolbarClick Mine False", "ToolbarClick Mine False", "ToolbarClick Open False"}));
     const auto asked = bench.Pane().TakeLog();
     ASSERT_EQ(asked.size(), 3u);
     EXPECT_EQ(asked[0].name + std::to_string(std::get<Long>(asked[0].arguments[0])), "Refresh23");
