@@ -1,0 +1,17 @@
+# The windowed layer is built where Qt with its browser engine is installed, unless it is asked for or ruled out.
+if(OSTREL_DESKTOP STREQUAL "AUTO")
+    find_package(Qt6 6.4 QUIET COMPONENTS Widgets WebEngineWidgets)
+    set(ostrel_with_desktop ${Qt6_FOUND})
+elseif(OSTREL_DESKTOP)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets WebEngineWidgets)
+    set(ostrel_with_desktop ON)
+else()
+    set(ostrel_with_desktop OFF)
+endif()
+# The engine's processes and the sanitizers do not get on with each other.
+if(OSTREL_SANITIZE)
+    set(ostrel_with_desktop OFF)
+endif()
+if(NOT ostrel_with_desktop)
+    message(STATUS "Without the windowed layer")
+endif()

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QPointer>
+#include <QWebEngineProfile>
+#include <vector>
+
+class QWebEnginePage;
+class QWidget;
+
+namespace ostrel::desktop {
+
+/// The browser windows that pages have opened beside the pane. Each has a page of the pane's profile; closing
+/// one ends it, and the rest end with this.
+class BrowserWindows {
+public:
+    explicit BrowserWindows(QWebEngineProfile& profile) : profile_(profile) {}
+    ~BrowserWindows();
+    BrowserWindows(const BrowserWindows&) = delete;
+    BrowserWindows& operator=(const BrowserWindows&) = delete;
+
+    /// Opens an empty window and gives its page, which belongs to it; null where there are too many already.
+    QWebEnginePage* Open();
+    /// The windows that stand, oldest first.
+    std::vector<QWidget*> Standing() const;
+
+private:
+    QWebEngineProfile& profile_;
+    std::vector<QPointer<QWidget>> windows_;
+};
+
+} // namespace ostrel::desktop

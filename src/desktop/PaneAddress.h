@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QUrl>
+
+#include "text/Text.h"
+
+namespace ostrel::desktop {
+
+/// The engine's address of what a host names: a path of the component (`C:\data\a.htm`, with `#part` behind
+/// it where no file has that name), a `file:` address with or without a drive, or any other address.
+QUrl UrlOf(const Text& address);
+
+/// What the component calls an address of the engine: local files by their paths, all else as it stands.
+Text AddressOf(const QUrl& url);
+
+} // namespace ostrel::desktop

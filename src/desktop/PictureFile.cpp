@@ -1,0 +1,18 @@
+#include "desktop/PictureFile.h"
+
+#include <QImageReader>
+
+#include "platform/native/NativePaths.h"
+
+namespace ostrel::desktop {
+
+QPixmap LoadPicture(const Picture& picture) {
+    const auto path = NativePaths().ToSystem(picture.path);
+    if (!path) return {};
+    QImageReader reader(QString::fromStdString(*path));
+    // The name may lie: hosts keep bitmaps under any extension.
+    reader.setDecideFormatFromContent(true);
+    return QPixmap::fromImageReader(&reader);
+}
+
+} // namespace ostrel::desktop

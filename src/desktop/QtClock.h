@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QTimer>
+
+#include "platform/Clock.h"
+#include "platform/TimerQueue.h"
+
+namespace ostrel::desktop {
+
+/// Real time on the application's event loop: timers and posted work run when the loop turns. A yield turns
+/// the loop once, so a long job that yields leaves the windows alive.
+class QtClock final : public Clock {
+public:
+    /// `turned` is called at the end of each yield, when windows may have to show what has changed.
+    explicit QtClock(std::function<void()> turned = {});
+
+    std::uint32_t Ticks() const override;
+    Date Now() const override;
+    std::unique_ptr<Timer> MakeTimer(std::function<void()> handler) override;
+    void Post(std::function<void()> work) override;
+    bool Pending() const override;
+    void Yield() override;
+    void Wait(Long milliseconds) override;
+
+    /// Whether a yield is being carried out.
+    bool InYield() const { return depth_ > 0; }
+
+private:
+    class LoopTimer;
+
+    void RunDue();
+    /// Lets the loop wake when the next thing is due.
+    void Wake();
+
+    std::function<void()> turned_;
+    TimerQueue queue_;
+    QTimer alarm_;
+    TimerQueue::Moment lastTurn_ = 0;
+    int depth_ = 0;
+};
+
+} // namespace ostrel::desktop

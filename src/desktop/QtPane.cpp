@@ -1,0 +1,215 @@
+#include "desktop/QtPane.h"
+
+#include <QAction>
+#include <QEventLoop>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWebEngineHistory>
+
+#include "desktop/PaneAddress.h"
+#include "desktop/QtText.h"
+#include "text/CodePage.h"
+
+namespace ostrel::desktop {
+
+namespace {
+
+constexpr TextView BlankPage = "about:blank";
+/// Names of pages are kept for as long as a history may lead back to them.
+constexpr qsizetype MostNames = 10'000;
+
+bool IsBlank(const QUrl& url) { return url.scheme() == QLatin1String("about"); }
+
+QString Quoted(const QString& text) {
+    const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(list.mid(1, list.size() - 2));
+}
+
+} // namespace
+
+QtPane::QtPane(QWidget& host)
+    : trust_(profile_), view_(std::make_unique<QWebEngineView>(&host)),
+      page_(std::make_unique<PanePage>(
+          profile_,
+          [this](const QUrl& url, QWebEnginePage::NavigationType type, bool mainFrame) {
+              return MayGo(url, type, mainFrame);
+          },
+          [this] { return OpenWindow(); })),
+      windows_(profile_) {
+    PaneTrust::Hold(*page_);
+    view_->setPage(page_.get());
+    auto* layout = new QVBoxLayout(&host);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view_.get());
+    ConnectPage();
+}
+
+QtPane::~QtPane() {
+    sink_ = nullptr;
+    page_->disconnect();
+    view_->setPage(nullptr);
+}
+
+void QtPane::ConnectPage() {
+    QWebEnginePage* const page = page_.get();
+    const auto connect = [page](auto signal, auto handler) {
+        QObject::connect(page, signal, page, std::move(handler));
+    };
+    connect(&QWebEnginePage::loadingChanged,
+            [this](const QWebEngineLoadingInfo& info) { LoadingChanged(info); });
+    connect(&QWebEnginePage::loadProgress, [this](int percent) {
+        if (load_ && load_->way != Way::Quiet)
+            Tell([&](BrowserSink& sink) { sink.ProgressChange(percent, 100); });
+    });
+    connect(&QWebEnginePage::urlChanged, [this](const QUrl&) { UrlChanged(); });
+    connect(&QWebEnginePage::titleChanged, [this](const QString& title) { TitleChanged(title); });
+    connect(&QWebEnginePage::linkHovered, [this](const QString& url) { Hovered(url); });
+    connect(&QWebEnginePage::renderProcessTerminated,
+            [this](QWebEnginePage::RenderProcessTerminationStatus, int) {
+                if (load_) Finished(false);
+            });
+    // Frames inside the page change the history with no load of the page. A step that is about to begin, and
+    // may yet be vetoed, changes the actions as well, so they are asked a while later.
+    settle_.setSingleShot(true);
+    settle_.setInterval(100);
+    QObject::connect(&settle_, &QTimer::timeout, page, [this] {
+        if (!load_) TellStates();
+    });
+    for (const auto action : {QWebEnginePage::Back, QWebEnginePage::Forward})
+        QObject::connect(page->action(action), &QAction::enabledChanged, &settle_,
+                         [this] { settle_.start(); });
+}
+
+void QtPane::Navigate(const Text& url) {
+    const QUrl address = UrlOf(url);
+    if (named_.size() >= MostNames) named_.clear();
+    if (address.isLocalFile()) named_[address] = url;
+    if (url == BlankPage && shown_.isEmpty() && !load_) {
+        // A fresh pane is blank already: to be asked for the blank page tells nothing.
+        load_ = Load{Way::Quiet, address};
+        page_->load(address);
+        return;
+    }
+    Abandon();
+    asked_ = address;
+    QTimer::singleShot(0, page_.get(), [this, url, address, request = ++requests_] {
+        if (request != requests_ || !asked_) return;
+        address.isValid() ? AskEngine(address) : Refused(url);
+    });
+}
+
+void QtPane::AskEngine(const QUrl& url) {
+    // The engine asks nobody for blank pages and for steps inside the page on view.
+    const bool inside =
+        url.hasFragment() && url != shown_ && url.matches(shown_, QUrl::RemoveFragment) && !IsBlank(url);
+    if (inside || IsBlank(url)) {
+        const unsigned request = requests_;
+        const bool allowed = HostAllows(url, true);
+        if (request != requests_) return;
+        asked_.reset();
+        if (!allowed) return;
+        if (!inside) Begin(Way::Plain, url);
+    }
+    page_->load(url);
+}
+
+void QtPane::Navigate(const Text& url, const Text& target) {
+    for (const TextView own : {"", "_self", "_top", "_parent"})
+        if (EqualText(target, own)) return Navigate(url);
+    const QUrl address = UrlOf(url);
+    if (EqualText(target, "_blank")) {
+        if (QWebEnginePage* window = OpenWindow()) window->load(address);
+        return;
+    }
+    page_->runJavaScript("window.open(" + Quoted(address.toString(QUrl::FullyEncoded)) + ", " +
+                         Quoted(ToQt(target)) + ");");
+}
+
+void QtPane::GoBack() {
+    if (page_->history()->canGoBack()) Step(QWebEnginePage::Back, page_->history()->backItem().url());
+}
+
+void QtPane::GoForward() {
+    if (page_->history()->canGoForward())
+        Step(QWebEnginePage::Forward, page_->history()->forwardItem().url());
+}
+
+void QtPane::Step(QWebEnginePage::WebAction way, const QUrl& url) {
+    if (IsBlank(url)) {
+        // The engine asks nobody for blank pages.
+        Abandon();
+        const unsigned request = requests_;
+        if (!HostAllows(url, true) || request != requests_) return;
+        Begin(Way::Plain, url);
+    }
+    page_->triggerAction(way);
+}
+
+void QtPane::GoHome() { Navigate(Text(BlankPage)); }
+
+void QtPane::GoSearch() { Navigate(Text(BlankPage)); }
+
+void QtPane::Stop() {
+    page_->triggerAction(QWebEnginePage::Stop);
+    Abandon();
+}
+
+void QtPane::Refresh2(Long level) {
+    if (shown_.isEmpty()) return;
+    constexpr Long Completely = 3;
+    Abandon();
+    if (IsBlank(shown_)) Begin(Way::Refresh, shown_);
+    page_->triggerAction(level == Completely ? QWebEnginePage::ReloadAndBypassCache : QWebEnginePage::Reload);
+}
+
+void QtPane::ExecWB(Long command, Long) {
+    constexpr Long Copy = 12, SelectAll = 17;
+    if (command == Copy) page_->triggerAction(QWebEnginePage::Copy);
+    if (command == SelectAll) page_->triggerAction(QWebEnginePage::SelectAll);
+}
+
+Text QtPane::LocationName() const { return FromQt(page_->title()); }
+
+Text QtPane::LocationURL() const { return Told(shown_); }
+
+Long QtPane::ReadyState() const {
+    constexpr Long Uninitialised = 0, Loading = 1, Interactive = 3, Complete = 4;
+    if (asked_) return Loading;
+    if (load_) return load_->committed ? Interactive : Loading;
+    return shown_.isEmpty() ? Uninitialised : Complete;
+}
+
+Text QtPane::DocumentText(const Text& word) const {
+    QString property;
+    for (const char* known : {"innerHTML", "innerText", "outerHTML", "outerText"})
+        if (EqualText(word, known)) property = known;
+    if (property.isEmpty()) return {};
+    // The answer may come after this call has given up on it.
+    struct Answer {
+        QString text;
+        QPointer<QEventLoop> waiting;
+    };
+    const auto answer = std::make_shared<Answer>();
+    QEventLoop loop;
+    answer->waiting = &loop;
+    page_->runJavaScript("document.body ? document.body." + property + " : ''",
+                         [answer](const QVariant& value) {
+                             answer->text = value.toString();
+                             if (answer->waiting) answer->waiting->quit();
+                         });
+    QTimer::singleShot(2000, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return FromQt(answer->text);
+}
+
+void QtPane::Focus() { view_->setFocus(); }
+
+Text QtPane::Told(const QUrl& address) const {
+    const QUrl url = FrameFiles::FileOf(address);
+    const auto named = named_.constFind(url);
+    return named == named_.cend() ? AddressOf(url) : *named;
+}
+
+} // namespace ostrel::desktop

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <QHash>
+#include <QPointer>
+#include <QTimer>
+#include <QWebEngineLoadingInfo>
+#include <QWebEngineProfile>
+#include <QWebEngineView>
+#include <memory>
+#include <optional>
+
+#include "desktop/BrowserWindows.h"
+#include "desktop/PanePage.h"
+#include "desktop/PaneTrust.h"
+#include "platform/BrowserPane.h"
+
+namespace ostrel::desktop {
+
+/// A pane with a real browser engine. What the engine signals comes out in this order: BeforeNavigate2,
+/// DownloadBegin, StatusTextChange and ProgressChange as they come, NavigateComplete2, TitleChange, what
+/// changed of the forward and back states, StatusTextChange "done", DocumentComplete, DownloadComplete. A
+/// refresh tells no navigation and no DocumentComplete; a step inside the page on view tells no download.
+/// Where a page cannot be had the engine shows one that says why, and that one completes; the status text
+/// then says so in place of "done". Local pages are reported by the very text given to `Navigate`. The first
+/// pane of a process must come before any other use of the engine in it.
+class QtPane final : public BrowserPane {
+public:
+    /// The view fills `host`, which outlives the pane.
+    explicit QtPane(QWidget& host);
+    ~QtPane() override;
+
+    void Listen(BrowserSink* sink) override { sink_ = sink; }
+    void Navigate(const Text& url) override;
+    /// A target that names a frame loads there; any other but the page itself opens a window.
+    void Navigate(const Text& url, const Text& target) override;
+    void GoBack() override;
+    void GoForward() override;
+    void GoHome() override;
+    void GoSearch() override;
+    void Stop() override;
+    void Refresh2(Long level) override;
+    /// Command 12 copies the selection, 17 selects all; others are left alone.
+    void ExecWB(Long command, Long option) override;
+    Text LocationName() const override;
+    Text LocationURL() const override;
+    bool Busy() const override { return load_ || asked_; }
+    Long ReadyState() const override;
+    bool Offline() const override { return trust_.Offline(); }
+    void Offline(bool offline) override { trust_.Offline(offline); }
+    /// Empty as well where the engine does not answer within two seconds.
+    Text DocumentText(const Text& word) const override;
+    void Focus() override;
+
+    QWebEngineView& View() { return *view_; }
+    /// The browser windows beside the pane.
+    BrowserWindows& Windows() { return windows_; }
+
+private:
+    enum class Way { Quiet, Plain, Refresh };
+    /// One load on its way.
+    struct Load {
+        Way way = Way::Plain;
+        QUrl url;
+        bool started = false;
+        bool committed = false;
+    };
+
+    void ConnectPage();
+    void AskEngine(const QUrl& url);
+    void Step(QWebEnginePage::WebAction way, const QUrl& url);
+    bool MayGo(const QUrl& url, QWebEnginePage::NavigationType type, bool mainFrame);
+    bool HostAllows(const QUrl& url, bool mainFrame);
+    QWebEnginePage* OpenWindow();
+    void Begin(Way way, const QUrl& url);
+    void Abandon();
+    void LoadingChanged(const QWebEngineLoadingInfo& info);
+    void Started(const QUrl& url);
+    void Finished(bool shown);
+    void Stopped();
+    /// An address that the engine knows nothing to do with.
+    void Refused(const Text& address);
+    void UrlChanged();
+    void TitleChanged(const QString& title);
+    void Hovered(const QString& url);
+    void Commit();
+    void TellStates();
+    void MovedInsidePage();
+    void TellStatus(const Text& text);
+    Text Told(const QUrl& address) const;
+    /// Runs it with the listener where there is one.
+    template <class Telling>
+    void Tell(Telling telling) {
+        if (sink_) telling(*sink_);
+    }
+
+    /// Before the profile there has to be the scheme that it serves.
+    struct Schemes {
+        Schemes() { FrameFiles::RegisterScheme(); }
+    } schemes_;
+    QWebEngineProfile profile_;
+    PaneTrust trust_;
+    std::unique_ptr<QWebEngineView> view_;
+    std::unique_ptr<PanePage> page_;
+    BrowserWindows windows_;
+
+    BrowserSink* sink_ = nullptr;
+    std::optional<Load> load_;
+    /// Asked of the pane and not begun yet.
+    std::optional<QUrl> asked_;
+    /// Tells a request from those that came behind it.
+    unsigned requests_ = 0;
+    QUrl shown_;
+    /// The texts by which hosts named local pages.
+    QHash<QUrl, Text> named_;
+    std::optional<bool> canForward_, canBack_;
+    bool hovering_ = false;
+    QTimer settle_;
+};
+
+} // namespace ostrel::desktop

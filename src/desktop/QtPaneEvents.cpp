@@ -1,0 +1,182 @@
+#include <QTimer>
+#include <QWebEngineHistory>
+
+#include "desktop/QtPane.h"
+#include "desktop/QtText.h"
+
+namespace ostrel::desktop {
+
+namespace {
+
+constexpr Long ForwardCommand = 1, BackCommand = 2;
+
+bool IsBlank(const QUrl& url) { return url.scheme() == QLatin1String("about"); }
+
+/// Until a page has told its title the engine makes do with its file's name or its address.
+bool IsStandIn(const QString& title, const QUrl& url) {
+    return title.isEmpty() || url.toString().endsWith(title);
+}
+
+} // namespace
+
+bool QtPane::HostAllows(const QUrl& url, bool mainFrame) {
+    Flag cancel = false;
+    Text address = Told(url), target;
+    Tell([&](BrowserSink& sink) { sink.BeforeNavigate2(address, target, cancel, mainFrame); });
+    return !cancel;
+}
+
+bool QtPane::MayGo(const QUrl& url, QWebEnginePage::NavigationType type, bool mainFrame) {
+    if (!mainFrame) return type == QWebEnginePage::NavigationTypeRedirect || HostAllows(url, false);
+    if (FrameFiles::IsFrameFile(url)) {
+        // A link in a frame that leads out of it: the page itself is an ordinary file again.
+        QTimer::singleShot(0, page_.get(), [this, file = FrameFiles::FileOf(url)] { page_->load(file); });
+        return false;
+    }
+    if (type == QWebEnginePage::NavigationTypeReload) {
+        Begin(Way::Refresh, url);
+        return true;
+    }
+    if (type == QWebEnginePage::NavigationTypeRedirect && load_) {
+        load_->url = url;
+        return true;
+    }
+    const unsigned request = ++requests_;
+    const bool allowed = HostAllows(url, true);
+    // The listener may have sent the pane elsewhere.
+    if (request != requests_) return false;
+    asked_.reset();
+    if (!allowed) return false;
+    Begin(Way::Plain, url);
+    return true;
+}
+
+QWebEnginePage* QtPane::OpenWindow() {
+    Tell([](BrowserSink& sink) { sink.NewWindow2(true); });
+    return windows_.Open();
+}
+
+void QtPane::Begin(Way way, const QUrl& url) {
+    Stopped();
+    load_ = Load{way, url};
+    hovering_ = false;
+    Tell([](BrowserSink& sink) { sink.DownloadBegin(); });
+    TellStatus("Opening page " + Told(url) + "...");
+}
+
+void QtPane::Abandon() {
+    ++requests_;
+    asked_.reset();
+    Stopped();
+}
+
+void QtPane::Stopped() {
+    if (!load_) return;
+    const bool heard = load_->way != Way::Quiet;
+    load_.reset();
+    if (heard) Tell([](BrowserSink& sink) { sink.DownloadComplete(); });
+}
+
+void QtPane::LoadingChanged(const QWebEngineLoadingInfo& info) {
+    // What was vetoed or replaced also comes to its end, and is no longer the load in hand.
+    const bool inHand = load_ && (load_->started || load_->url == info.url());
+    switch (info.status()) {
+    case QWebEngineLoadingInfo::LoadStartedStatus:
+        return Started(info.url());
+    case QWebEngineLoadingInfo::LoadStoppedStatus:
+        if (load_ && load_->started && load_->url == info.url()) Stopped();
+        if (asked_ && *asked_ == info.url()) Refused(Told(info.url()));
+        return;
+    case QWebEngineLoadingInfo::LoadSucceededStatus:
+        return inHand ? Finished(true) : void();
+    case QWebEngineLoadingInfo::LoadFailedStatus:
+        return inHand ? Finished(false) : void();
+    }
+}
+
+void QtPane::Started(const QUrl& url) {
+    // A script that goes back to a blank page: the engine asks nobody, and it cannot be stopped any more.
+    if (!load_ && !asked_ && IsBlank(url)) {
+        (void)HostAllows(url, true);
+        Begin(Way::Plain, url);
+    }
+    if (load_) load_->started = true;
+}
+
+void QtPane::Refused(const Text& address) {
+    asked_.reset();
+    TellStatus("Can't open page " + address);
+}
+
+void QtPane::UrlChanged() {
+    shown_ = page_->url();
+    if (load_)
+        Commit();
+    else
+        MovedInsidePage();
+}
+
+void QtPane::MovedInsidePage() {
+    asked_.reset();
+    const Text url = Told(shown_);
+    Tell([&](BrowserSink& sink) { sink.NavigateComplete2(url, true); });
+    TellStates();
+    Tell([&](BrowserSink& sink) { sink.DocumentComplete(url, true); });
+}
+
+void QtPane::Commit() {
+    if (!load_ || load_->committed) return;
+    load_->committed = true;
+    if (load_->way != Way::Plain) return;
+    const Text url = Told(shown_);
+    Tell([&](BrowserSink& sink) { sink.NavigateComplete2(url, true); });
+}
+
+void QtPane::TitleChanged(const QString& title) {
+    if (load_ && (!load_->committed || load_->way == Way::Quiet || IsStandIn(title, shown_))) return;
+    Tell([&](BrowserSink& sink) { sink.TitleChange(FromQt(title)); });
+}
+
+void QtPane::Hovered(const QString& url) {
+    // The engine also leaves links that nobody was on.
+    if (url.isEmpty() && !hovering_) return;
+    hovering_ = !url.isEmpty();
+    TellStatus(hovering_ ? Told(QUrl(url)) : Text());
+}
+
+void QtPane::Finished(bool shown) {
+    if (!load_) return;
+    shown_ = page_->url();
+    Commit();
+    const Load load = *load_;
+    const Text url = Told(shown_);
+    const auto ends = [this] { return !load_; };
+    if (load.way == Way::Quiet) {
+        load_.reset();
+        return;
+    }
+    Tell([&](BrowserSink& sink) { sink.TitleChange(LocationName()); });
+    if (ends()) return;
+    TellStates();
+    if (ends()) return;
+    // From here on a listener may start the next load; this one is told to its end.
+    load_.reset();
+    TellStatus(shown ? Text("done") : "Can't open page " + Told(load.url));
+    if (load.way == Way::Plain) Tell([&](BrowserSink& sink) { sink.DocumentComplete(url, true); });
+    Tell([](BrowserSink& sink) { sink.DownloadComplete(); });
+}
+
+void QtPane::TellStates() {
+    const bool forward = page_->history()->canGoForward();
+    const bool back = page_->history()->canGoBack();
+    if (std::exchange(canForward_, forward) != forward)
+        Tell([&](BrowserSink& sink) { sink.CommandStateChange(ForwardCommand, forward); });
+    if (std::exchange(canBack_, back) != back)
+        Tell([&](BrowserSink& sink) { sink.CommandStateChange(BackCommand, back); });
+}
+
+void QtPane::TellStatus(const Text& text) {
+    Tell([&](BrowserSink& sink) { sink.StatusTextChange(text); });
+}
+
+} // namespace ostrel::desktop

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/Screen.h"
+
+namespace ostrel::desktop {
+
+/// The desktop that a widget stands on. Dialogs and messages belong to the widget's window.
+class QtScreen final : public Screen {
+public:
+    /// `widget` may go before the screen does; then dialogs have no owner.
+    explicit QtScreen(QWidget& widget) : widget_(&widget) {}
+
+    void ShowModal(Form& form) override;
+    Long Message(MessageKind kind, const Text& text, const Text& title, Long buttons) override;
+    Bounds Area() const override;
+    Extent Pixel() const override;
+    Extent Measure(const Text& text) const override;
+    void Beep() override;
+    void MousePointer(Long shape) override;
+
+private:
+    QWidget* Window() const;
+
+    QPointer<QWidget> widget_;
+};
+
+/// The cursor of one of the component's pointer shapes.
+Qt::CursorShape CursorOf(Long shape);
+
+} // namespace ostrel::desktop

@@ -1,0 +1,411 @@
+#include "desktop/DeskTest.h"
+
+#include <sqlite3.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListView>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+
+#include "desk/CommandLine.h"
+#include "desktop/DeskBench.h"
+
+using namespace ostrel;
+using namespace ostrel::test;
+using desk::ColumnsModel;
+
+namespace {
+
+/// The longest that the event loop did not turn while this lived.
+class LoopWatch {
+public:
+    LoopWatch() {
+        QObject::connect(&timer_, &QTimer::timeout, &timer_,
+                         [this] { longest_ = std::max(longest_, clock_.restart()); });
+        clock_.start();
+        timer_.start(0);
+    }
+    qint64 Longest() const { return longest_; }
+
+private:
+    QTimer timer_;
+    QElapsedTimer clock_;
+    qint64 longest_ = 0;
+};
+
+/// The first records of the earthquakes in the examples.
+std::string Earthquakes(int records) {
+    std::ifstream file(OSTREL_EXAMPLES_DIR "/earthquakes.csv");
+    std::string csv, line;
+    for (int i = 0; i <= records && std::getline(file, line); ++i) csv += line + "\n";
+    return csv;
+}
+
+/// A real click on the check box of a column; row 0 is that of all columns.
+void ClickColumn(const DeskBench& bench, int row, ColumnsModel::Section section) {
+    auto* view = bench.Part<QTableView>("columns");
+    const QModelIndex index = view->model()->index(row, section);
+    view->scrollTo(index);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
+}
+
+void MakeDatabase(const std::string& path, const char* sql) {
+    sqlite3* database = nullptr;
+    sqlite3_open(path.c_str(), &database);
+    QCOMPARE(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(database);
+}
+
+} // namespace
+
+void DeskTest::init() {
+    settings_ = std::make_unique<TemporaryDirectory>();
+    qputenv("XDG_CONFIG_HOME", settings_->Path().c_str());
+}
+
+void DeskTest::ReportIsWalkedByClicks() {
+    DeskBench bench;
+    QVERIFY(bench.window->windowTitle().startsWith("Welcome"));
+    bench.directory.Write("quakes.csv", Earthquakes(40));
+    bench.Open("quakes.csv");
+    QCOMPARE(bench.Page(), QString("preview.htm"));
+    bench.Part<QCheckBox>("records")->click();
+    bench.Click("make");
+    QVERIFY(bench.Settle());
+    QCOMPARE(bench.Page(), QString("quakes.htm"));
+    QCOMPARE(bench.window->windowTitle(), QString("quakes — Ostrel Desk"));
+
+    QCOMPARE(bench.Follow("Magnitude"), QString("quakes_3_U.htm"));
+    const QVariantList magnitudes = bench
+                                        .Script("[...document.querySelectorAll('tr')].slice(1)"
+                                                ".map(row => parseFloat(row.cells[3].textContent))")
+                                        .toList();
+    QCOMPARE(magnitudes.size(), 40);
+    QVERIFY(
+        std::is_sorted(magnitudes.begin(), magnitudes.end(), [](const QVariant& left, const QVariant& right) {
+            return left.toDouble() < right.toDouble();
+        }));
+    QCOMPARE(bench.Follow("Magnitude"), QString("quakes_3_D.htm"));
+    QCOMPARE(bench.Follow("#2"), QString("quakes_Rec_Num_2.htm"));
+    QCOMPARE(bench.Follow("Next"), QString("quakes_Rec_Num_3.htm"));
+    QCOMPARE(bench.Follow("Last"), QString("quakes_Rec_Num_40.htm"));
+    QCOMPARE(bench.Follow("All"), QString("quakes.htm"));
+    QCOMPARE(bench.View().url().fragment(), QString("Rec_Num_40"));
+
+    bench.Click("cmdBack");
+    QVERIFY(WaitUntil([&] { return bench.Page() == "quakes_Rec_Num_40.htm"; }));
+    QVERIFY(WaitUntil([&] { return bench.Action("forward")->isEnabled(); }));
+    bench.Action("back")->trigger();
+    QVERIFY(WaitUntil([&] { return bench.Page() == "quakes_Rec_Num_3.htm"; }));
+    bench.Settle();
+    bench.Click("cmdHome");
+    QVERIFY(WaitUntil([&] { return bench.Page() == "quakes.htm"; }));
+}
+
+void DeskTest::OptionsShapeTheReport() {
+    DeskBench bench;
+    bench.directory.Write("prices.csv", "Name,Price,Code\nPear,2.5,1\nApple,1,2\nPlum,0.25,3\n");
+    bench.Open("prices.csv");
+    bench.Part<QLineEdit>("title")->setText("Fruit & more");
+    ClickColumn(bench, 0, ColumnsModel::SortSection); // none is sorted
+    ClickColumn(bench, 1, ColumnsModel::SortSection); // but the name
+    ClickColumn(bench, 3, ColumnsModel::ShowSection);
+    ClickColumn(bench, 2, ColumnsModel::TotalSection);
+    bench.Action("makeReport")->trigger();
+    QVERIFY(bench.Settle());
+    QCOMPARE(bench.directory.Names(), (std::set<std::string>{"out", "prices.csv"}));
+
+    QStringList made = QDir(bench.Output()).entryList(QDir::Files);
+    QCOMPARE(made,
+             (QStringList{"prices.csv", "prices.htm", "prices_1_D.htm", "prices_1_U.htm", "prices_D.htm"}));
+    QCOMPARE(bench.View().title(), QString("Fruit & more"));
+    const QString text = bench.Script("document.body.innerText").toString();
+    QVERIFY2(text.contains("3.75"), qPrintable(text));
+    QVERIFY(!text.contains("Code"));
+    QVERIFY(text.contains("3 rows, 3 columns"));
+
+    // What has been chosen for one file does not go to the next.
+    bench.directory.Write("other.csv", "Name,Price\nPear,2.5\n");
+    bench.Open("other.csv");
+    QCOMPARE(bench.Part<QLineEdit>("title")->text(), QString("other"));
+    bench.Open("prices.csv");
+    QCOMPARE(bench.Part<QLineEdit>("title")->text(), QString("Fruit & more"));
+}
+
+void DeskTest::DatabaseTableIsChosen() {
+    DeskBench bench;
+    MakeDatabase(bench.directory.Path("shop.db"),
+                 "CREATE TABLE customers(name, city); CREATE TABLE items(name, price, stock);"
+                 "INSERT INTO customers VALUES ('Ann', 'Bern'); INSERT INTO items VALUES ('Pen', 1.5, 7);");
+    bench.Open("shop.db");
+    auto* tables = bench.Part<QComboBox>("tables");
+    QVERIFY(tables->isVisible());
+    QCOMPARE(tables->count(), 2);
+    QCOMPARE(bench.Part<QTableView>("columns")->model()->rowCount(), 3);
+    tables->setFocus();
+    QTest::keyClick(tables, Qt::Key_Down);
+    QCOMPARE(bench.Part<QTableView>("columns")->model()->rowCount(), 4);
+    bench.window->SetOutputDirectory(bench.Output());
+    bench.Click("make");
+    QVERIFY(bench.Settle());
+    QCOMPARE(bench.Page(), QString("shop_items.htm"));
+    QCOMPARE(bench.View().title(), QString("shop items"));
+}
+
+void DeskTest::StopEndsARun() {
+    DeskBench bench;
+    bench.directory.Write("many.csv", ManyRecords(100'000));
+    LoopWatch reading;
+    bench.Open("many.csv");
+    qInfo("longest turn of the loop while reading: %lld ms", reading.Longest());
+    QElapsedTimer sinceStop;
+    bool othersClosed = false;
+    QTimer::singleShot(600, bench.window.get(), [&] {
+        othersClosed = !bench.Action("open")->isEnabled() && !bench.Action("makeReport")->isEnabled() &&
+                       !bench.Part<QWidget>("make")->isEnabled();
+        bench.window->Open(QString::fromStdString(bench.directory.Path("many.csv")));
+        sinceStop.start();
+        bench.Click("cmdStop");
+    });
+    LoopWatch making;
+    bench.window->MakeReport();
+    const qint64 took = sinceStop.elapsed();
+    qInfo("stopped after %lld ms; longest turn of the loop: %lld ms", took, making.Longest());
+    QVERIFY(othersClosed);
+    QVERIFY2(took < 2000, "the report went on");
+    QVERIFY(!bench.window->CurrentWork().Running());
+    QVERIFY(bench.window->statusBar()->currentMessage().contains("stopped"));
+    QVERIFY(!bench.Part<QWidget>("fraStop")->isVisible());
+    QVERIFY(bench.Part<QWidget>("make")->isEnabled());
+    QVERIFY(bench.Page() != "many.htm");
+}
+
+void DeskTest::StopEndsReading() {
+    DeskBench bench;
+    bench.directory.Write("many.csv", ManyRecords(200'000));
+    QTimer::singleShot(30, bench.window.get(), [&] { bench.Action("stop")->trigger(); });
+    bench.window->Open(QString::fromStdString(bench.directory.Path("many.csv")));
+    QVERIFY(bench.window->statusBar()->currentMessage().contains("Reading many.csv was stopped"));
+    QVERIFY(!bench.Part<QWidget>("columns")->isVisible());
+
+    MakeDatabase(bench.directory.Path("long.db"),
+                 "CREATE VIEW long AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+                 "SELECT count(*) AS many FROM n");
+    QTimer::singleShot(50, bench.window.get(), [&] { bench.Action("stop")->trigger(); });
+    bench.window->Open(QString::fromStdString(bench.directory.Path("long.db")));
+    QVERIFY(bench.window->statusBar()->currentMessage().contains("Reading long.db was stopped"));
+}
+
+void DeskTest::FaultyFileIsTold_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("sentence");
+    QTest::newRow("ragged") << QByteArray("a,b\n1,2\n3\n") << "line 3: the row has 1 value where";
+    QTest::newRow("empty") << QByteArray("") << "is empty.";
+    QTest::newRow("header alone") << QByteArray("a,b\n") << "there is a header and no row below it.";
+    QTest::newRow("not text") << QByteArray("a,b\n1,\0\n", 8) << "this is not text.";
+    QTest::newRow("torn database") << QByteArray("SQLite format 3\0garbage", 23) << "file is not a database";
+}
+
+void DeskTest::FaultyFileIsTold() {
+    QFETCH(QByteArray, content);
+    QFETCH(QString, sentence);
+    DeskBench bench;
+    bench.directory.Write("good.csv", "a,b\n1,2\n");
+    bench.Open("good.csv");
+    bench.directory.Write("bad.csv", content.toStdString());
+    bench.Open("bad.csv");
+    QVERIFY2(bench.window->Trouble().contains(sentence), qPrintable(bench.window->Trouble()));
+    QVERIFY(bench.Part<QWidget>("noticeSentence")->isVisible());
+    // The former file stays open.
+    QVERIFY(bench.Part<QWidget>("make")->isVisible());
+    bench.Open("missing.csv");
+    QVERIFY(bench.window->Trouble().contains("missing.csv can't be read: No such file"));
+    bench.Open("good.csv");
+    QVERIFY(!bench.Part<QWidget>("noticeSentence")->isVisible());
+}
+
+void DeskTest::FaultyDirectoryIsToldAtItsField() {
+    DeskBench bench;
+    bench.directory.Write("good.csv", "a,b\n1,2\n");
+    bench.Open("good.csv");
+    auto* field = bench.Part<QLineEdit>("directory");
+    auto* trouble = bench.Part<QLabel>("directoryTrouble");
+    for (const auto& [directory, sentence] :
+         {std::pair{QString::fromStdString(bench.directory.Path("good.csv/out")), "Not a directory"},
+          {QString(), "needs a directory"}}) {
+        field->setText(directory);
+        QVERIFY(!trouble->isVisible());
+        bench.Click("make");
+        QVERIFY2(trouble->isVisible() && trouble->text().contains(sentence), qPrintable(trouble->text()));
+    }
+    QCOMPARE(bench.directory.Names(), std::set<std::string>{"good.csv"});
+}
+
+void DeskTest::PagesThatFailAreNamed() {
+    DeskBench bench;
+    bench.directory.Write("good.csv", "a,b\n1,2\n");
+    bench.Open("good.csv");
+    for (const char* taken : {"/good_1_U.htm", "/good_2_D.htm"}) QDir().mkpath(bench.Output() + taken);
+    bench.Click("make");
+    bench.Settle();
+    QVERIFY(bench.window->Trouble().startsWith("The report is not complete"));
+    const QString details = bench.Part<QPlainTextEdit>("noticeDetails")->toPlainText();
+    for (const char* name : {"good_1_U.htm", "good_2_D.htm"})
+        QVERIFY2(details.contains(bench.Output() + "/" + name + " can't be written: Is a directory."),
+                 qPrintable(details));
+    QCOMPARE(bench.Page(), QString("preview.htm"));
+
+    // The file itself is not written over by the report beside it.
+    bench.window->SetOutputDirectory(QString::fromStdString(bench.directory.Path()));
+    bench.Click("make");
+    bench.Settle();
+    QVERIFY(bench.window->Trouble().isEmpty());
+    QCOMPARE(bench.directory.Read("good.csv"), std::string("a,b\n1,2\n"));
+}
+
+void DeskTest::StateComesBack() {
+    TemporaryDirectory kept;
+    kept.Write("fruit.csv", "Name,Price\nPear,2.5\nApple,1\n");
+    kept.Write("gone.csv", "a\n1\n");
+    const QString fruit = QString::fromStdString(kept.Path("fruit.csv"));
+    {
+        DeskBench bench;
+        bench.window->Open(QString::fromStdString(kept.Path("gone.csv")));
+        bench.window->Open(fruit);
+        bench.window->SetOutputDirectory(QString::fromStdString(kept.Path("reports/fruit")));
+        bench.Part<QCheckBox>("records")->click();
+        bench.Part<QComboBox>("recordName")->setCurrentIndex(1);
+        ClickColumn(bench, 2, ColumnsModel::TotalSection);
+        bench.Action("address")->trigger();
+        bench.Click("make");
+        bench.Settle();
+        bench.window->resize(720, 560);
+        QVERIFY(bench.window->close());
+    }
+    QFile::remove(QString::fromStdString(kept.Path("gone.csv")));
+    DeskBench bench;
+    QCOMPARE(bench.window->size(), QSize(720, 560));
+    QVERIFY(bench.Action("address")->isChecked());
+    QVERIFY(bench.Part<QWidget>("txtURL")->isVisible());
+    auto* recent = bench.Part<QMenu>("recent");
+    emit recent->aboutToShow();
+    QCOMPARE(recent->actions().value(0)->text(), fruit);
+    for (const QAction* action : recent->actions()) QVERIFY(!action->text().contains("gone.csv"));
+    recent->actions().front()->trigger();
+    bench.Settle();
+    QVERIFY(bench.Part<QCheckBox>("records")->isChecked());
+    QCOMPARE(bench.Part<QComboBox>("recordName")->currentText(), QString("Name"));
+    const auto* columns = bench.Part<QTableView>("columns")->model();
+    QCOMPARE(columns->index(2, ColumnsModel::TotalSection).data(Qt::CheckStateRole).toInt(),
+             int(Qt::Checked));
+    // The next file's report goes beside the last one.
+    bench.directory.Write("nuts.csv", "Name\nHazel\n");
+    bench.window->Open(QString::fromStdString(bench.directory.Path("nuts.csv")));
+    QCOMPARE(bench.Part<QLineEdit>("directory")->text(), QString::fromStdString(kept.Path("reports/nuts")));
+    bench.Action("address")->trigger();
+}
+
+void DeskTest::HelpPagesAreShownByClicks() {
+    DeskBench bench;
+    bench.directory.Write("index.html", "<title>The beginning</title><a href=\"more.htm\">further</a>");
+    bench.directory.Write("more.htm", "<TITLE>Dogs &amp; cats</TITLE>animals");
+    bench.directory.Write("plain.htm", "no title");
+    bench.window->Open(QString::fromStdString(bench.directory.Path()));
+    bench.Settle();
+    QCOMPARE(bench.Page(), QString("index.html"));
+    auto* list = bench.Part<QListView>("helpPages");
+    QStringList titles;
+    for (int row = 0; row < list->model()->rowCount(); ++row)
+        titles << list->model()->index(row, 0).data().toString();
+    QCOMPARE(titles, (QStringList{"The beginning", "Dogs & cats", "plain.htm"}));
+    const auto click = [&](int row) {
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualRect(list->model()->index(row, 0)).center());
+    };
+    click(2);
+    QVERIFY(WaitUntil([&] { return bench.Page() == "plain.htm"; }));
+    click(0);
+    QVERIFY(WaitUntil([&] { return bench.Page() == "index.html"; }));
+    bench.Settle();
+    QCOMPARE(bench.Follow("further"), QString("more.htm"));
+    QCOMPARE(list->currentIndex().row(), 1);
+    click(0);
+    QVERIFY(WaitUntil([&] { return bench.Page() == "index.html"; }));
+    bench.Settle();
+    click(1);
+    QVERIFY(WaitUntil([&] { return bench.Page() == "more.htm"; }));
+    bench.Settle();
+    bench.Click("cmdHome");
+    QVERIFY(WaitUntil([&] { return bench.Page() == "index.html"; }));
+}
+
+void DeskTest::CloseEndsTheRunFirst() {
+    DeskBench bench;
+    bench.directory.Write("many.csv", ManyRecords(50'000));
+    bench.Open("many.csv");
+    bool refused = false;
+    QTimer::singleShot(200, bench.window.get(), [&] { refused = !bench.window->close(); });
+    bench.window->MakeReport();
+    QVERIFY(refused);
+    QVERIFY(bench.window->isVisible());
+    QVERIFY(WaitUntil([&] { return !bench.window->isVisible(); }));
+    for (const QString& name : QDir(bench.Output()).entryList(QDir::Files))
+        if (name.endsWith(".htm")) {
+            QFile page(bench.Output() + "/" + name);
+            QVERIFY(page.open(QIODevice::ReadOnly));
+            QVERIFY2(page.readAll().trimmed().endsWith("</HTML>"), qPrintable(name));
+        }
+}
+
+void DeskTest::DroppedFileOpens() {
+    DeskBench bench;
+    bench.directory.Write("dropped.csv", "a,b\n1,2\n");
+    // What is dragged over the page goes to the window around it.
+    QWidget* taker = bench.View().focusProxy();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(bench.directory.Path("dropped.csv")))});
+    QDragEnterEvent enter(QPoint(500, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(taker, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(500, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(taker, &drop);
+    QVERIFY(WaitUntil([&] { return bench.Part<QLabel>("fileName")->text() == "dropped.csv"; }));
+
+    QMimeData word;
+    word.setText("dropped.csv");
+    QDragEnterEvent refused(QPoint(500, 300), Qt::CopyAction, &word, Qt::LeftButton, {});
+    QApplication::sendEvent(taker, &refused);
+    QVERIFY(!refused.isAccepted());
+}
+
+void DeskTest::CommandLineIsRead_data() {
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QString>("trouble");
+    QTest::newRow("nothing") << QStringList{} << "";
+    QTest::newRow("all") << QStringList{"a.csv",        "--make", "--output", "o",
+                                        "--screenshot", "s.png",  "--timings"}
+                         << "";
+    QTest::newRow("two files") << QStringList{"a.csv", "b.csv"} << "There is one FILE too many.";
+    QTest::newRow("unknown") << QStringList{"--fast"} << "Unknown option 'fast'.";
+    QTest::newRow("nothing to make") << QStringList{"--make"} << "--make needs a FILE.";
+    QTest::newRow("no directory") << QStringList{"a.csv", "--output="} << "--output needs a name.";
+}
+
+void DeskTest::CommandLineIsRead() {
+    QFETCH(QStringList, words);
+    QFETCH(QString, trouble);
+    const desk::CommandLine line = desk::ReadCommandLine(QStringList{"ostrel-desk"} + words);
+    QCOMPARE(line.trouble, trouble);
+    if (!trouble.isEmpty()) return;
+    QCOMPARE(line.file, words.value(0));
+    QCOMPARE(line.make, words.contains("--make"));
+    QCOMPARE(line.output, QString(line.make ? "o" : ""));
+    QCOMPARE(line.screenshot, QString(line.make ? "s.png" : ""));
+    QCOMPARE(line.timings, line.make);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+#include "support/TemporaryDirectory.h"
+
+/// The application as its user works it.
+class DeskTest final : public QObject {
+    Q_OBJECT
+
+private slots:
+    /// Every function finds the settings of a first start.
+    void init();
+
+    void ReportIsWalkedByClicks();
+    void OptionsShapeTheReport();
+    void DatabaseTableIsChosen();
+    void StopEndsARun();
+    void StopEndsReading();
+    void FaultyFileIsTold_data();
+    void FaultyFileIsTold();
+    void FaultyDirectoryIsToldAtItsField();
+    void PagesThatFailAreNamed();
+    void StateComesBack();
+    void HelpPagesAreShownByClicks();
+    void CloseEndsTheRunFirst();
+    void DroppedFileOpens();
+    void CommandLineIsRead_data();
+    void CommandLineIsRead();
+
+private:
+    std::unique_ptr<ostrel::test::TemporaryDirectory> settings_;
+};
