@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "cli/ByteSource.h"
 #include "cli/CellStore.h"
@@ -29,9 +31,14 @@ void ReadCsvTable(ByteSource& source, const CsvFormat& format, bool header, Inpu
 /// Whether the file begins as a SQLite database does.
 bool IsSqliteFile(const std::string& path);
 
+/// The names of the tables and views of a SQLite database, in order. Throws `InputError` where there is none.
+std::vector<std::string> SqliteTableNames(const std::string& path);
+
 /// Reads the rows of a query over a SQLite database, which is opened for reading only. With no query it is
-/// all of `tableName`, and with neither all of the one table that there is. Throws `InputError`.
+/// all of `tableName`, and with neither all of the one table that there is. Throws `InputError`, and
+/// `Interruption` where `stopWanted` says so; that one is asked again and again, must not throw, and is
+/// `Interrupted` where none is given.
 void ReadSqliteTable(const std::string& path, const std::string& query, const std::string& tableName,
-                     InputTable& table);
+                     InputTable& table, std::function<bool()> stopWanted = {});
 
 } // namespace ostrel::cli

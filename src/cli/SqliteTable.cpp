@@ -3,8 +3,10 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <functional>
 #include <limits>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "cli/InputError.h"
@@ -27,15 +29,20 @@ using Statement = std::unique_ptr<sqlite3_stmt, EndStatement>;
 /// One run over a database; its errors name the file.
 class SqliteQuery {
 public:
-    explicit SqliteQuery(const std::string& path) : path_(path) {
+    explicit SqliteQuery(const std::string& path, std::function<bool()> stopWanted = {})
+        : path_(path), stopWanted_(stopWanted ? std::move(stopWanted) : Interrupted) {
         sqlite3* opened = nullptr;
         const int result = sqlite3_open_v2(path.c_str(), &opened, SQLITE_OPEN_READONLY, nullptr);
         database_.reset(opened);
         if (result != SQLITE_OK) FailWithMessage("can't be opened");
-        // A query may run for long before its first row; Ctrl-C ends it.
+        // A query may run for long before its first row; it can be stopped there too.
         sqlite3_progress_handler(
-            opened, 10'000, [](void*) { return Interrupted() ? 1 : 0; }, nullptr);
+            opened, 10'000,
+            [](void* query) noexcept { return static_cast<SqliteQuery*>(query)->stopWanted_() ? 1 : 0; },
+            this);
     }
+    SqliteQuery(const SqliteQuery&) = delete;
+    SqliteQuery& operator=(const SqliteQuery&) = delete;
 
     void Prepare(const std::string& sql) {
         sqlite3_stmt* prepared = nullptr;
@@ -50,10 +57,10 @@ public:
     }
 
     bool Step() {
+        if (stopWanted_()) throw Interruption{};
         const int result = sqlite3_step(statement_.get());
         if (result == SQLITE_ROW) return true;
         if (result == SQLITE_DONE) return false;
-        ThrowIfInterrupted();
         FailWithMessage("the query can't be run");
     }
 
@@ -62,10 +69,12 @@ public:
 
 private:
     [[noreturn]] void FailWithMessage(const std::string& what) const {
+        if (sqlite3_errcode(database_.get()) == SQLITE_INTERRUPT) throw Interruption{};
         Fail(what + ": " + sqlite3_errmsg(database_.get()) + ".");
     }
 
     std::string path_;
+    std::function<bool()> stopWanted_;
     Database database_;
     Statement statement_;
 };
@@ -75,15 +84,20 @@ std::string TextOfColumn(sqlite3_stmt* row, int column) {
     return text ? text : "";
 }
 
-/// `SELECT *` of the table asked for, or of the only one.
-std::string QueryOfTable(SqliteQuery& query, const std::string& tableName) {
+std::vector<std::string> TablesOf(SqliteQuery& query) {
     query.Prepare("SELECT name FROM sqlite_master WHERE type IN ('table', 'view') AND name NOT LIKE "
                   "'sqlite\\_%' ESCAPE '\\' ORDER BY name");
     std::vector<std::string> tables;
     while (query.Step()) tables.push_back(TextOfColumn(query.Row(), 0));
+    if (tables.empty()) query.Fail("there is no table in it.");
+    return tables;
+}
+
+/// `SELECT *` of the table asked for, or of the only one.
+std::string QueryOfTable(SqliteQuery& query, const std::string& tableName) {
+    const std::vector<std::string> tables = TablesOf(query);
     std::string chosen = tableName, all;
     for (const std::string& name : tables) all += (all.empty() ? "" : ", ") + name;
-    if (tables.empty()) query.Fail("there is no table in it.");
     if (chosen.empty()) {
         if (tables.size() > 1) query.Fail("there are several tables; choose one with --table: " + all + ".");
         chosen = tables.front();
@@ -142,9 +156,14 @@ bool IsSqliteFile(const std::string& path) {
     return count == sizeof head && std::memcmp(head, "SQLite format 3", sizeof head) == 0;
 }
 
-void ReadSqliteTable(const std::string& path, const std::string& query, const std::string& tableName,
-                     InputTable& table) {
+std::vector<std::string> SqliteTableNames(const std::string& path) {
     SqliteQuery run(path);
+    return TablesOf(run);
+}
+
+void ReadSqliteTable(const std::string& path, const std::string& query, const std::string& tableName,
+                     InputTable& table, std::function<bool()> stopWanted) {
+    SqliteQuery run(path, std::move(stopWanted));
     table.place = path;
     run.Prepare(query.empty() ? QueryOfTable(run, tableName) : query);
     const int columns = sqlite3_column_count(run.Row());

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QStringList>
+
+namespace ostrel::desk {
+
+/// What the command line of the application says.
+struct CommandLine {
+    QString file;       ///< to open; empty for none
+    bool make = false;  ///< makes the report at once
+    QString output;     ///< the directory of the report; empty for the usual one
+    QString screenshot; ///< the picture to leave behind; empty for a window that stays
+    bool timings = false;
+
+    QString trouble; ///< why it is not understood; empty where it is
+    QString answer;  ///< the text to print in place of a window
+};
+
+CommandLine ReadCommandLine(const QStringList& arguments);
+
+} // namespace ostrel::desk

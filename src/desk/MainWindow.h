@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QStackedWidget>
+#include <memory>
+
+#include "desk/DeskPages.h"
+#include "desk/DeskState.h"
+#include "desk/HelpPagesPanel.h"
+#include "desk/Menus.h"
+#include "desk/NoticeBar.h"
+#include "desk/OptionsPanel.h"
+#include "desk/PaneStatus.h"
+#include "desk/ReportJob.h"
+#include "desk/TableFile.h"
+#include "desk/Work.h"
+
+namespace ostrel::desk {
+
+/// The application's window: the component in the middle, the options of a report or the list of help pages
+/// beside it. Closing it while work is being done ends the work first; it must not be deleted before.
+class MainWindow final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow();
+    ~MainWindow() override;
+
+    /// A CSV file or a SQLite database, a directory of help pages, or one of its pages. What is wrong with it
+    /// is told in the window. Nothing happens while work is being done.
+    void Open(const QString& path);
+    /// Makes the report of the open file; nothing where there is none.
+    void MakeReport();
+    /// The directory of the next report.
+    void SetOutputDirectory(const QString& directory) { options_->SetDirectory(directory); }
+
+    desktop::OstrelWebHelpWidget& Widget() { return *widget_; }
+    const Work& CurrentWork() const { return work_; }
+    /// The sentence of what is wrong, as it stands in the window; empty for nothing.
+    QString Trouble() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void Arrange();
+    void ConnectActions();
+    void RestoreState();
+    void SaveState();
+    void WorkChanged();
+    void FillRecent();
+    void AskForFile();
+    void AskForDirectory();
+    void OpenTable(const QString& path, const QString& table);
+    void OpenPages(const QString& directory, const QString& page);
+    void ShowHelpPage(const QString& name);
+    void TellOutcome(const ReportOutcome& outcome, double seconds);
+    void TellDirectoryTrouble(const QString& sentence);
+    void KeepPlan();
+    ReportPlan PlanFor(const TableFile& file);
+    /// Loads a page that the home button shall lead back to.
+    void ShowHome(const Text& address);
+    void ShowPanel(QWidget& content);
+    void ShowFolder();
+    void ShowAbout();
+
+    // The widget goes first, by the destructor: its control tells the parts around it of its end.
+    std::unique_ptr<desktop::OstrelWebHelpWidget> widget_;
+    Work work_;
+    Actions actions_;
+    PaneStatus status_;
+    DeskState state_;
+    DeskPages pages_;
+    NoticeBar* notice_;
+    QDockWidget* dock_;
+    QStackedWidget* panels_;
+    OptionsPanel* options_;
+    HelpPagesPanel* helpPages_;
+    TableFile file_;
+    QString report_; ///< system's path of the main page of the last report
+    bool panelFilled_ = false;
+    bool closeWanted_ = false;
+};
+
+} // namespace ostrel::desk

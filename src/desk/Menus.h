@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+
+namespace ostrel::desk {
+
+inline constexpr const char* ApplicationTitle = "Ostrel Desk";
+
+/// What the menus of the main window offer.
+struct Actions {
+    QAction *open, *openDirectory, *quit;
+    QMenu* recent;
+    QAction *make, *stop, *showFolder;
+    QAction *panel, *toolbar, *address;
+    QAction *back, *forward, *home, *refresh;
+    QAction* about;
+};
+
+/// Fills the menu bar. Nothing is connected yet.
+Actions AddMenus(QMainWindow& window);
+
+} // namespace ostrel::desk

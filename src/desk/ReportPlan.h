@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "cli/ColumnTypes.h"
+#include "cli/InputTable.h"
+
+namespace ostrel::desk {
+
+/// What becomes of one column.
+struct ColumnChoice {
+    cli::ColumnType kind = cli::ColumnType::Text;
+    bool show = true;
+    bool sort = true;
+    bool total = false;
+
+    bool Countable() const { return kind == cli::ColumnType::Number || kind == cli::ColumnType::Time; }
+    bool Sorted() const { return show && sort; }
+    bool Totalled() const { return show && total && Countable(); }
+};
+
+/// The options of the component end at this column; those behind it are shown and have no pages.
+inline constexpr std::size_t ColumnReach = 100;
+
+/// What the user wants of a report.
+struct ReportPlan {
+    QString title;
+    QString directory;
+    std::vector<ColumnChoice> columns;
+    bool subTotals = false;
+    bool records = false; ///< a page for each record
+    int recordName = 0;   ///< the column whose value names a record, from 1; 0 for its number
+
+    bool AnyTotal() const;
+    /// Pages of all records, and those of one record each.
+    qint64 TablePages() const;
+    qint64 RecordPages(Long rows) const { return records ? rows : 0; }
+};
+
+/// The plan of a table nobody has chosen anything for.
+ReportPlan FirstPlan(const cli::InputTable& table);
+
+/// A plan as ASCII that settings may hold. Columns are known by their names, so that it also serves a file
+/// that has changed; kinds are found anew.
+Text PlanText(const ReportPlan& plan, const cli::InputTable& table);
+/// Takes over what of such a text fits the table.
+void ApplyPlanText(TextView text, const cli::InputTable& table, ReportPlan& plan);
+
+} // namespace ostrel::desk
