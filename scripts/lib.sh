@@ -23,6 +23,8 @@ configure() {
         cat "$root/build-$preset.log" >&2
         fail "the build could not be configured"
     }
+    # What is left out is said, so that nobody misses it later.
+    sed -n 's/^-- \(Without .*\)/\1/p' "$root/build-$preset.log"
     rm -f "$root/build-$preset.log"
 }
 
