@@ -38,7 +38,8 @@ bool HelpPagesModel::Fill(const QString& directory) {
     QStringList names =
         QDir(directory).entryList({"*.htm", "*.html"}, QDir::Files | QDir::Readable, QDir::NoSort);
     if (names.isEmpty()) return false;
-    QCollator collator;
+    // The plain locale knows no numbers.
+    QCollator collator{QLocale(QLocale::English)};
     collator.setNumericMode(true);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::sort(names.begin(), names.end(),

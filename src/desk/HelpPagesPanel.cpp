@@ -4,6 +4,8 @@
 #include <QItemSelectionModel>
 #include <QVBoxLayout>
 
+#include "desk/Counted.h"
+
 namespace ostrel::desk {
 
 HelpPagesPanel::HelpPagesPanel(QWidget* parent) : QWidget(parent) {
@@ -40,16 +42,17 @@ bool HelpPagesPanel::ShowDirectory(const QString& directory) {
     const bool filled = pages_.Fill(directory);
     marking_ = false;
     if (!filled) return false;
-    const qsizetype count = pages_.Names().size();
     name_.setText(QDir(directory).dirName());
     name_.setToolTip(directory);
-    size_.setText(QLocale::c().toString(count) + (count == 1 ? " page" : " pages"));
+    size_.setText(Counted(pages_.Names().size(), "page"));
     return true;
 }
 
 void HelpPagesPanel::Mark(const QString& name) {
     marking_ = true;
-    const qsizetype row = pages_.Names().indexOf(name);
+    qsizetype row = pages_.Names().indexOf(name);
+    // A link may lead to a place inside a page.
+    if (row < 0) row = pages_.Names().indexOf(name.section('#', 0, 0));
     view_.setCurrentIndex(row < 0 ? QModelIndex() : pages_.index(static_cast<int>(row)));
     marking_ = false;
 }

@@ -6,10 +6,18 @@
 #include <QStatusBar>
 #include <QUrl>
 
+#include "desk/Counted.h"
 #include "desktop/QtText.h"
 #include "platform/native/NativePaths.h"
 
 namespace ostrel::desk {
+
+namespace {
+
+/// What the browser shows within a minute; at a million cells it has been seen to run out of memory.
+constexpr qint64 MostCellsAtOnce = 800'000;
+
+} // namespace
 
 MainWindow::MainWindow()
     : widget_(std::make_unique<desktop::OstrelWebHelpWidget>()), work_(*widget_), actions_(AddMenus(*this)),
@@ -122,25 +130,28 @@ QString MainWindow::Trouble() const {
 }
 
 void MainWindow::TellOutcome(const ReportOutcome& outcome, double seconds) {
-    const QString counts =
-        QString("%L1 pages written, %L2 unchanged").arg(outcome.written).arg(outcome.unchanged);
+    const QString counts = Counted(outcome.written, "page") + " written, " +
+                           QLocale(QLocale::English).toString(outcome.unchanged) + " unchanged";
     if (outcome.stopped) {
         statusBar()->showMessage("The report was stopped and is not complete: " + counts + ".");
         return;
     }
-    if (!outcome.troubles.isEmpty())
-        notice_->TellTroubles("The report is not complete: " + counts + ".", outcome.troubles);
-    else
-        notice_->TellSuccess(
-            QString("The report is made: %1, in %2 seconds. It lies in %3.")
-                .arg(counts, QString::number(seconds, 'f', 1), QFileInfo(outcome.page).path()));
-    if (!outcome.made) return;
+    if (!outcome.made)
+        return notice_->TellTroubles("The report is not complete: " + counts + ".", outcome.troubles);
+    QString told = QString("The report is made: %1, in %2 seconds. It lies in %3.")
+                       .arg(counts, QString::number(seconds, 'f', 1), QFileInfo(outcome.page).path());
+    const bool large = outcome.cells > MostCellsAtOnce;
+    if (large)
+        told += " Its main page has " + Counted(outcome.cells, "cell") +
+                ", which the browser may take minutes to show or fail to; Home loads it all the same.";
+    notice_->TellSuccess(told);
     report_ = outcome.page;
     state_.SetDirectory("Reports", QFileInfo(QFileInfo(report_).path()).path());
     WorkChanged();
     // What the code page has no name for has an address all the same.
-    ShowHome(NativePaths::FromSystem(report_.toStdString())
-                 .value_or(QUrl::fromLocalFile(report_).toEncoded().toStdString()));
+    const Text address = NativePaths::FromSystem(report_.toStdString())
+                             .value_or(QUrl::fromLocalFile(report_).toEncoded().toStdString());
+    large ? widget_->Web().HomePage(address) : ShowHome(address);
 }
 
 ReportPlan MainWindow::PlanFor(const TableFile& file) {

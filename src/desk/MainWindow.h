@@ -40,6 +40,9 @@ public:
     /// The sentence of what is wrong, as it stands in the window; empty for nothing.
     QString Trouble() const;
 
+signals:
+    void Closed();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;

@@ -12,6 +12,7 @@
 #include "control/Version.h"
 #include "desk/MainWindow.h"
 #include "desktop/QtPane.h"
+#include "desktop/QtText.h"
 #include "desktop/Twips.h"
 
 namespace ostrel::desk {
@@ -82,8 +83,10 @@ void MainWindow::ConnectActions() {
     connect(options_, &OptionsPanel::TableWanted, this,
             [this](const QString& table) { OpenTable(file_.path, table); });
     connect(helpPages_, &HelpPagesPanel::PageWanted, this, &MainWindow::ShowHelpPage);
-    connect(&status_, &PaneStatus::PageShown, this,
-            [this](const QString& address) { helpPages_->Mark(address.mid(address.lastIndexOf('\\') + 1)); });
+    connect(&status_, &PaneStatus::PageShown, this, [this, &web](const QString& address) {
+        const QString directory = desktop::ToQt(web.AddMissingBackslash(web.DirectoryHelp()));
+        helpPages_->Mark(address.startsWith(directory) ? address.mid(directory.size()) : QString());
+    });
 }
 
 void MainWindow::WorkChanged() {
@@ -127,6 +130,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     }
     SaveState();
     QMainWindow::closeEvent(event);
+    emit Closed();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -10,16 +10,11 @@
 
 #include "cli/ReportFiles.h"
 #include "desk/ColumnDelegates.h"
+#include "desk/Counted.h"
 
 namespace ostrel::desk {
 
 namespace {
-
-QString Number(qint64 number) { return QLocale::c().toString(number); }
-
-QString Counted(qint64 count, const QString& thing) {
-    return Number(count) + " " + thing + (count == 1 ? "" : "s");
-}
 
 QLabel* Caption(const QString& text, QWidget& buddy) {
     auto* label = new QLabel(text);

@@ -9,7 +9,7 @@
 #include "cli/ReportLook.h"
 #include "cli/ReportOptions.h"
 #include "desktop/QtText.h"
-#include "platform/native/NativePlatform.h"
+#include "platform/native/NativeFiles.h"
 #include "text/CodePage.h"
 
 namespace ostrel::desk {
@@ -32,16 +32,17 @@ private:
 
 Text Html(const QString& text) { return cli::HtmlArgument(text.toStdString()); }
 
-QString Counted(qint64 count, const QString& thing) {
-    return QLocale::c().toString(count) + " " + thing + (count == 1 ? "" : "s");
+/// As the command line writes it, so that its reports and these stay the same.
+QString Plural(std::size_t count, const QString& thing) {
+    return QString::number(count) + " " + thing + (count == 1 ? "" : "s");
 }
 
 } // namespace
 
 ReportJob::ReportJob(desktop::OstrelWebHelpWidget& widget, Work& work, const TableFile& file,
                      const ReportPlan& plan)
-    : widget_(widget), web_(widget.Web()), work_(work), file_(file), plan_(plan), table_(*file.table),
-      page_(cli::PageNameOf(file.Stem().toStdString()) + ".htm") {
+    : widget_(widget), web_(widget.Web()), work_(work), calls_(work), file_(file), plan_(plan),
+      table_(*file.table), page_(cli::PageNameOf(file.Stem().toStdString()) + ".htm") {
     Listen();
 }
 
@@ -65,7 +66,8 @@ void ReportJob::Listen() {
 }
 
 ReportOutcome ReportJob::Run() {
-    auto files = std::make_unique<cli::ReportFiles>(MakeNativeFiles(), file_.path.toStdString());
+    auto files =
+        std::make_unique<cli::ReportFiles>(std::make_unique<NativeFiles>(calls_), file_.path.toStdString());
     const std::string directory = plan_.directory.toStdString();
     if (const std::string refusal = files->Enter(directory); !refusal.empty()) {
         outcome_.directoryTrouble = QString::fromStdString(refusal);
@@ -124,8 +126,9 @@ void ReportJob::SetColumns() {
 
 Text ReportJob::SubTitle() const {
     const Text csv = web_.FileExtensionChange(page_, ".csv");
-    return Html(Counted(table_.rows, "row") + ", " + Counted(table_.Columns(), "column")) + " &middot; " +
-           web_.CreateLink(csv, csv, false, false, false);
+    return Html(Plural(static_cast<std::size_t>(table_.rows), "row") + ", " +
+                Plural(table_.names.size(), "column")) +
+           " &middot; " + web_.CreateLink(csv, csv, false, false, false);
 }
 
 void ReportJob::MakePages() {
@@ -149,6 +152,8 @@ void ReportJob::MakePages() {
                 : files_->Shown(failed) + " can't be written: " + ToUtf8(files_->LastReason()) + ".");
     }
     outcome_.made = made && outcome_.troubles.isEmpty();
+    outcome_.cells = table_.rows * (1 + std::count_if(plan_.columns.begin(), plan_.columns.end(),
+                                                      [](const ColumnChoice& c) { return c.show; }));
     outcome_.page = QDir(plan_.directory).absoluteFilePath(desktop::ToQt(page_));
 }
 

@@ -9,6 +9,7 @@
 #include "desk/ReportPlan.h"
 #include "desk/TableFile.h"
 #include "desk/Work.h"
+#include "desk/YieldingCalls.h"
 
 namespace ostrel::desk {
 
@@ -19,6 +20,7 @@ struct ReportOutcome {
     QString directoryTrouble; ///< nothing was begun, since the directory cannot be written
     QStringList troubles;     ///< what could not be written and why, a sentence each
     QString page;             ///< system's path of the main page
+    qint64 cells = 0;         ///< that the main page shows
     int written = 0, unchanged = 0;
 };
 
@@ -46,6 +48,7 @@ private:
     desktop::OstrelWebHelpWidget& widget_;
     OstrelWebHelp& web_;
     Work& work_;
+    YieldingCalls calls_;
     const TableFile& file_;
     const ReportPlan& plan_;
     const cli::InputTable& table_;

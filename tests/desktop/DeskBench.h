@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sqlite3.h>
+
 #include <QAction>
 #include <QWebEngineView>
 
@@ -71,6 +73,14 @@ public:
     TemporaryDirectory directory;
     std::unique_ptr<desk::MainWindow> window;
 };
+
+/// A SQLite database as the statements leave it.
+inline void MakeDatabase(const std::string& path, const char* sql) {
+    sqlite3* database = nullptr;
+    sqlite3_open(path.c_str(), &database);
+    QCOMPARE(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(database);
+}
 
 /// A CSV file with that many records of five columns.
 inline std::string ManyRecords(int count) {

@@ -1,43 +1,25 @@
 #include "desktop/DeskTest.h"
 
-#include <sqlite3.h>
-
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QDropEvent>
-#include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QMimeData>
-#include <QStatusBar>
 #include <QTableView>
 #include <QTest>
 
 #include "desk/CommandLine.h"
 #include "desktop/DeskBench.h"
 
-using namespace ostrel;
-using namespace ostrel::test;
+namespace ostrel::test {
+
 using desk::ColumnsModel;
 
 namespace {
-
-/// The longest that the event loop did not turn while this lived.
-class LoopWatch {
-public:
-    LoopWatch() {
-        QObject::connect(&timer_, &QTimer::timeout, &timer_,
-                         [this] { longest_ = std::max(longest_, clock_.restart()); });
-        clock_.start();
-        timer_.start(0);
-    }
-    qint64 Longest() const { return longest_; }
-
-private:
-    QTimer timer_;
-    QElapsedTimer clock_;
-    qint64 longest_ = 0;
-};
 
 /// The first records of the earthquakes in the examples.
 std::string Earthquakes(int records) {
@@ -53,13 +35,6 @@ void ClickColumn(const DeskBench& bench, int row, ColumnsModel::Section section)
     const QModelIndex index = view->model()->index(row, section);
     view->scrollTo(index);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
-}
-
-void MakeDatabase(const std::string& path, const char* sql) {
-    sqlite3* database = nullptr;
-    sqlite3_open(path.c_str(), &database);
-    QCOMPARE(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(database);
 }
 
 } // namespace
@@ -158,50 +133,6 @@ void DeskTest::DatabaseTableIsChosen() {
     QCOMPARE(bench.View().title(), QString("shop items"));
 }
 
-void DeskTest::StopEndsARun() {
-    DeskBench bench;
-    bench.directory.Write("many.csv", ManyRecords(100'000));
-    LoopWatch reading;
-    bench.Open("many.csv");
-    qInfo("longest turn of the loop while reading: %lld ms", reading.Longest());
-    QElapsedTimer sinceStop;
-    bool othersClosed = false;
-    QTimer::singleShot(600, bench.window.get(), [&] {
-        othersClosed = !bench.Action("open")->isEnabled() && !bench.Action("makeReport")->isEnabled() &&
-                       !bench.Part<QWidget>("make")->isEnabled();
-        bench.window->Open(QString::fromStdString(bench.directory.Path("many.csv")));
-        sinceStop.start();
-        bench.Click("cmdStop");
-    });
-    LoopWatch making;
-    bench.window->MakeReport();
-    const qint64 took = sinceStop.elapsed();
-    qInfo("stopped after %lld ms; longest turn of the loop: %lld ms", took, making.Longest());
-    QVERIFY(othersClosed);
-    QVERIFY2(took < 2000, "the report went on");
-    QVERIFY(!bench.window->CurrentWork().Running());
-    QVERIFY(bench.window->statusBar()->currentMessage().contains("stopped"));
-    QVERIFY(!bench.Part<QWidget>("fraStop")->isVisible());
-    QVERIFY(bench.Part<QWidget>("make")->isEnabled());
-    QVERIFY(bench.Page() != "many.htm");
-}
-
-void DeskTest::StopEndsReading() {
-    DeskBench bench;
-    bench.directory.Write("many.csv", ManyRecords(200'000));
-    QTimer::singleShot(30, bench.window.get(), [&] { bench.Action("stop")->trigger(); });
-    bench.window->Open(QString::fromStdString(bench.directory.Path("many.csv")));
-    QVERIFY(bench.window->statusBar()->currentMessage().contains("Reading many.csv was stopped"));
-    QVERIFY(!bench.Part<QWidget>("columns")->isVisible());
-
-    MakeDatabase(bench.directory.Path("long.db"),
-                 "CREATE VIEW long AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
-                 "SELECT count(*) AS many FROM n");
-    QTimer::singleShot(50, bench.window.get(), [&] { bench.Action("stop")->trigger(); });
-    bench.window->Open(QString::fromStdString(bench.directory.Path("long.db")));
-    QVERIFY(bench.window->statusBar()->currentMessage().contains("Reading long.db was stopped"));
-}
-
 void DeskTest::FaultyFileIsTold_data() {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("sentence");
@@ -245,28 +176,6 @@ void DeskTest::FaultyDirectoryIsToldAtItsField() {
         QVERIFY2(trouble->isVisible() && trouble->text().contains(sentence), qPrintable(trouble->text()));
     }
     QCOMPARE(bench.directory.Names(), std::set<std::string>{"good.csv"});
-}
-
-void DeskTest::PagesThatFailAreNamed() {
-    DeskBench bench;
-    bench.directory.Write("good.csv", "a,b\n1,2\n");
-    bench.Open("good.csv");
-    for (const char* taken : {"/good_1_U.htm", "/good_2_D.htm"}) QDir().mkpath(bench.Output() + taken);
-    bench.Click("make");
-    bench.Settle();
-    QVERIFY(bench.window->Trouble().startsWith("The report is not complete"));
-    const QString details = bench.Part<QPlainTextEdit>("noticeDetails")->toPlainText();
-    for (const char* name : {"good_1_U.htm", "good_2_D.htm"})
-        QVERIFY2(details.contains(bench.Output() + "/" + name + " can't be written: Is a directory."),
-                 qPrintable(details));
-    QCOMPARE(bench.Page(), QString("preview.htm"));
-
-    // The file itself is not written over by the report beside it.
-    bench.window->SetOutputDirectory(QString::fromStdString(bench.directory.Path()));
-    bench.Click("make");
-    bench.Settle();
-    QVERIFY(bench.window->Trouble().isEmpty());
-    QCOMPARE(bench.directory.Read("good.csv"), std::string("a,b\n1,2\n"));
 }
 
 void DeskTest::StateComesBack() {
@@ -345,24 +254,6 @@ void DeskTest::HelpPagesAreShownByClicks() {
     QVERIFY(WaitUntil([&] { return bench.Page() == "index.html"; }));
 }
 
-void DeskTest::CloseEndsTheRunFirst() {
-    DeskBench bench;
-    bench.directory.Write("many.csv", ManyRecords(50'000));
-    bench.Open("many.csv");
-    bool refused = false;
-    QTimer::singleShot(200, bench.window.get(), [&] { refused = !bench.window->close(); });
-    bench.window->MakeReport();
-    QVERIFY(refused);
-    QVERIFY(bench.window->isVisible());
-    QVERIFY(WaitUntil([&] { return !bench.window->isVisible(); }));
-    for (const QString& name : QDir(bench.Output()).entryList(QDir::Files))
-        if (name.endsWith(".htm")) {
-            QFile page(bench.Output() + "/" + name);
-            QVERIFY(page.open(QIODevice::ReadOnly));
-            QVERIFY2(page.readAll().trimmed().endsWith("</HTML>"), qPrintable(name));
-        }
-}
-
 void DeskTest::DroppedFileOpens() {
     DeskBench bench;
     bench.directory.Write("dropped.csv", "a,b\n1,2\n");
@@ -409,3 +300,5 @@ void DeskTest::CommandLineIsRead() {
     QCOMPARE(line.screenshot, QString(line.make ? "s.png" : ""));
     QCOMPARE(line.timings, line.make);
 }
+
+} // namespace ostrel::test

@@ -5,6 +5,8 @@
 
 #include "support/TemporaryDirectory.h"
 
+namespace ostrel::test {
+
 /// The application as its user works it.
 class DeskTest final : public QObject {
     Q_OBJECT
@@ -16,15 +18,11 @@ private slots:
     void ReportIsWalkedByClicks();
     void OptionsShapeTheReport();
     void DatabaseTableIsChosen();
-    void StopEndsARun();
-    void StopEndsReading();
     void FaultyFileIsTold_data();
     void FaultyFileIsTold();
     void FaultyDirectoryIsToldAtItsField();
-    void PagesThatFailAreNamed();
     void StateComesBack();
     void HelpPagesAreShownByClicks();
-    void CloseEndsTheRunFirst();
     void DroppedFileOpens();
     void CommandLineIsRead_data();
     void CommandLineIsRead();
@@ -32,3 +30,5 @@ private slots:
 private:
     std::unique_ptr<ostrel::test::TemporaryDirectory> settings_;
 };
+
+} // namespace ostrel::test

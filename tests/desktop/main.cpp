@@ -3,6 +3,8 @@
 #include <QTest>
 #include <memory>
 
+#include "desktop/DeskRunTest.h"
+#include "desktop/DeskTest.h"
 #include "desktop/FormDialogTest.h"
 #include "desktop/FormWindowTest.h"
 #include "desktop/MainTextTest.h"
@@ -42,5 +44,7 @@ int main(int argc, char** argv) {
     failures += Run<ostrel::test::QtScreenTest>(arguments);
     failures += Run<ostrel::test::WidgetTest>(arguments);
     failures += Run<ostrel::test::PaneTest>(arguments);
+    failures += Run<ostrel::test::DeskTest>(arguments);
+    failures += Run<ostrel::test::DeskRunTest>(arguments);
     return failures == 0 ? 0 : 1;
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QSocketNotifier>
+#include <QWidget>
+#include <memory>
+
+namespace ostrel::desk {
+
+/// Lets the signals that ask a program to end close a window, so that its work ends first and no work files
+/// stay behind. One at a time.
+class ClosingSignals {
+public:
+    explicit ClosingSignals(QWidget& window);
+    ~ClosingSignals();
+    ClosingSignals(const ClosingSignals&) = delete;
+    ClosingSignals& operator=(const ClosingSignals&) = delete;
+
+private:
+    std::unique_ptr<QSocketNotifier> arrival_;
+};
+
+} // namespace ostrel::desk
