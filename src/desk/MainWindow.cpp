@@ -139,7 +139,7 @@ void MainWindow::TellOutcome(const ReportOutcome& outcome, double seconds) {
     if (!outcome.made)
         return notice_->TellTroubles("The report is not complete: " + counts + ".", outcome.troubles);
     QString told = QString("The report is made: %1, in %2 seconds. It lies in %3.")
-                       .arg(counts, QString::number(seconds, 'f', 1), QFileInfo(outcome.page).path());
+                       .arg(counts, QString::number(seconds, 'f', 2), QFileInfo(outcome.page).path());
     const bool large = outcome.cells > MostCellsAtOnce;
     if (large)
         told += " Its main page has " + Counted(outcome.cells, "cell") +

@@ -69,6 +69,8 @@ private:
     void ShowPanel(QWidget& content);
     void ShowFolder();
     void ShowAbout();
+    /// A table that a page links to is opened by the program that the desktop has for it; false for pages.
+    bool LeaveToOthers(const Text& address);
 
     // The widget goes first, by the destructor: its control tells the parts around it of its end.
     std::unique_ptr<desktop::OstrelWebHelpWidget> widget_;

@@ -11,9 +11,11 @@
 
 #include "control/Version.h"
 #include "desk/MainWindow.h"
+#include "desktop/PaneAddress.h"
 #include "desktop/QtPane.h"
 #include "desktop/QtText.h"
 #include "desktop/Twips.h"
+#include "text/CodePage.h"
 
 namespace ostrel::desk {
 
@@ -83,6 +85,9 @@ void MainWindow::ConnectActions() {
     connect(options_, &OptionsPanel::TableWanted, this,
             [this](const QString& table) { OpenTable(file_.path, table); });
     connect(helpPages_, &HelpPagesPanel::PageWanted, this, &MainWindow::ShowHelpPage);
+    web.events.BeforeNavigate2.Listen([this](Text& address, Text&, Flag& cancel) {
+        if (LeaveToOthers(address)) cancel = true;
+    });
     connect(&status_, &PaneStatus::PageShown, this, [this, &web](const QString& address) {
         const QString directory = desktop::ToQt(web.AddMissingBackslash(web.DirectoryHelp()));
         helpPages_->Mark(address.startsWith(directory) ? address.mid(directory.size()) : QString());
@@ -183,6 +188,18 @@ void MainWindow::ShowFolder() {
     const QString directory = QFileInfo(report_).path();
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(directory)))
         notice_->TellTrouble("No program here shows folders; the report lies in " + directory + ".");
+}
+
+bool MainWindow::LeaveToOthers(const Text& address) {
+    if (!EndsWithText(address, ".csv")) return false;
+    const QUrl url = desktop::UrlOf(address);
+    if (!url.isLocalFile()) return false;
+    // The engine waits for the answer to its question.
+    QTimer::singleShot(0, this, [this, url] {
+        if (!QDesktopServices::openUrl(url))
+            notice_->TellTrouble("No program here opens tables; this one lies in " + url.toLocalFile() + ".");
+    });
+    return true;
 }
 
 void MainWindow::ShowAbout() {

@@ -53,8 +53,8 @@ public:
         WaitUntil([&] { return answer.has_value(); });
         return answer.value_or(QVariant());
     }
-    /// A real click on the link of that text, and the page that it leads to.
-    QString Follow(const QString& text) {
+    /// A real click on the link of that text; false where there is none.
+    bool ClickLink(const QString& text) {
         const QVariantList place =
             Script("(function() { const a = [...document.querySelectorAll('a[href]')].find(a => "
                    "a.textContent.trim() == '" +
@@ -62,9 +62,14 @@ public:
                    "'); if (!a) return []; a.scrollIntoView({block: 'center'}); const r = "
                    "a.getBoundingClientRect(); return [r.left + r.width / 2, r.top + r.height / 2]; })()")
                 .toList();
-        if (place.size() != 2) return "no link " + text;
-        const QUrl before = View().url();
+        if (place.size() != 2) return false;
         QTest::mouseClick(View().focusProxy(), Qt::LeftButton, {}, {place[0].toInt(), place[1].toInt()});
+        return true;
+    }
+    /// The page that such a click leads to.
+    QString Follow(const QString& text) {
+        const QUrl before = View().url();
+        if (!ClickLink(text)) return "no link " + text;
         WaitUntil([&] { return View().url() != before; });
         Settle();
         return Page();

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QDir>
 #include <QDropEvent>
 #include <QLabel>
@@ -111,6 +112,20 @@ void DeskTest::OptionsShapeTheReport() {
     QCOMPARE(bench.Part<QLineEdit>("title")->text(), QString("other"));
     bench.Open("prices.csv");
     QCOMPARE(bench.Part<QLineEdit>("title")->text(), QString("Fruit & more"));
+}
+
+void DeskTest::TableLinkIsLeftToOthers() {
+    DeskBench bench;
+    bench.directory.Write("prices.csv", "Name,Price\nPear,2.5\n");
+    bench.Open("prices.csv");
+    bench.Action("makeReport")->trigger();
+    QVERIFY(bench.Settle());
+    QDesktopServices::setUrlHandler("file", this, "OpenElsewhere");
+    bench.ClickLink("prices.csv");
+    QVERIFY(WaitUntil([&] { return !opened_.isEmpty(); }));
+    QDesktopServices::unsetUrlHandler("file");
+    QCOMPARE(opened_.toLocalFile(), bench.Output() + "/prices.csv");
+    QCOMPARE(bench.Page(), QString("prices.htm"));
 }
 
 void DeskTest::DatabaseTableIsChosen() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QUrl>
 #include <memory>
 
 #include "support/TemporaryDirectory.h"
@@ -17,6 +18,7 @@ private slots:
 
     void ReportIsWalkedByClicks();
     void OptionsShapeTheReport();
+    void TableLinkIsLeftToOthers();
     void DatabaseTableIsChosen();
     void FaultyFileIsTold_data();
     void FaultyFileIsTold();
@@ -27,8 +29,13 @@ private slots:
     void CommandLineIsRead_data();
     void CommandLineIsRead();
 
+public slots:
+    /// Stands in for the desktop's program for files.
+    void OpenElsewhere(const QUrl& url) { opened_ = url; }
+
 private:
-    std::unique_ptr<ostrel::test::TemporaryDirectory> settings_;
+    std::unique_ptr<TemporaryDirectory> settings_;
+    QUrl opened_;
 };
 
 } // namespace ostrel::test
