@@ -16,14 +16,20 @@ namespace {
 /// A page that opens windows without end must not take the desktop with it.
 constexpr std::size_t MostWindows = 32;
 
+void CloseIfWritten(QWebEngineView* view) {
+    const QString scheme = view->url().scheme();
+    if (scheme.isEmpty() || scheme == QLatin1String("about") || scheme == QLatin1String("blob"))
+        view->close();
+}
+
 } // namespace
 
 BrowserWindows::~BrowserWindows() {
-    for (const QPointer<QWidget>& window : windows_) delete window.data();
+    for (const QPointer<QWebEngineView>& window : windows_) delete window.data();
 }
 
 QWebEnginePage* BrowserWindows::Open() {
-    std::erase_if(windows_, [](const QPointer<QWidget>& window) { return !window; });
+    std::erase_if(windows_, [](const QPointer<QWebEngineView>& window) { return !window; });
     if (windows_.size() >= MostWindows) return nullptr;
     auto* view = new QWebEngineView;
     // The page that opened the window may hold on to it, and must not read what it shows.
@@ -47,9 +53,23 @@ QWebEnginePage* BrowserWindows::Open() {
     return page;
 }
 
+void BrowserWindows::OpenerLeaves() {
+    const auto windows = windows_;
+    for (const QPointer<QWebEngineView>& window : windows) {
+        if (!window) continue;
+        QWebEngineView* const view = window;
+        if (view->page()->isLoading())
+            QObject::connect(
+                view, &QWebEngineView::loadFinished, view, [view] { CloseIfWritten(view); },
+                Qt::SingleShotConnection);
+        else
+            CloseIfWritten(view);
+    }
+}
+
 std::vector<QWidget*> BrowserWindows::Standing() const {
     std::vector<QWidget*> standing;
-    for (const QPointer<QWidget>& window : windows_)
+    for (const QPointer<QWebEngineView>& window : windows_)
         if (window) standing.push_back(window);
     return standing;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 class QWebEnginePage;
+class QWebEngineView;
 class QWidget;
 
 namespace ostrel::desktop {
@@ -20,12 +21,15 @@ public:
 
     /// Opens an empty window and gives its page, which belongs to it; null where there are too many already.
     QWebEnginePage* Open();
+    /// The page of the pane is about to go. Windows that show nothing but what it wrote into them go with it:
+    /// a script in there is of its origin, and could read the page that comes next.
+    void OpenerLeaves();
     /// The windows that stand, oldest first.
     std::vector<QWidget*> Standing() const;
 
 private:
     QWebEngineProfile& profile_;
-    std::vector<QPointer<QWidget>> windows_;
+    std::vector<QPointer<QWebEngineView>> windows_;
 };
 
 } // namespace ostrel::desktop

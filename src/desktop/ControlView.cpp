@@ -190,8 +190,8 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
         return false;
     const auto& mouse = *static_cast<QMouseEvent*>(event);
     Mouse(mouse, FromQt(watched->objectName()));
-    // What nobody takes goes on to the widget around, and would be told once more from there; buttons take what
-    // the left button does.
+    // What nobody takes goes on to the widget around, and would be told once more from there; buttons take
+    // what the left button does.
     const bool left = type == QEvent::MouseMove ? mouse.buttons().testFlag(Qt::LeftButton)
                                                 : mouse.button() == Qt::LeftButton;
     return watched == toolbar_ || !left;

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
+#include <QUuid>
 #include <QWebEngineProfile>
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
@@ -12,29 +13,30 @@ namespace ostrel::desktop {
 namespace {
 
 const QByteArray Scheme = "ostrel-frame";
-const QString Host = "files";
+const QString& Host() {
+    static const QString host = QUuid::createUuid().toString(QUuid::Id128);
+    return host;
+}
 
 } // namespace
 
 FrameFiles::FrameFiles(QWebEngineProfile& profile) { profile.installUrlSchemeHandler(Scheme, this); }
 
 void FrameFiles::RegisterScheme() {
-    static const bool registered = [] {
-        QWebEngineUrlScheme scheme(Scheme);
-        scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
-        scheme.setFlags(QWebEngineUrlScheme::NoAccessAllowed);
-        QWebEngineUrlScheme::registerScheme(scheme);
-        return true;
-    }();
-    (void)registered;
+    QWebEngineUrlScheme scheme(Scheme);
+    scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
+    scheme.setFlags(QWebEngineUrlScheme::NoAccessAllowed);
+    QWebEngineUrlScheme::registerScheme(scheme);
 }
 
-bool FrameFiles::IsFrameFile(const QUrl& url) { return url.scheme() == QLatin1String(Scheme); }
+bool FrameFiles::IsFrameFile(const QUrl& url) {
+    return url.scheme() == QLatin1String(Scheme) && url.host() == Host();
+}
 
 QUrl FrameFiles::AddressOf(const QUrl& file) {
     QUrl address = file;
     address.setScheme(Scheme);
-    address.setHost(Host);
+    address.setHost(Host());
     return address;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QWebEnginePage>
 #include <functional>
 
 namespace ostrel::desktop {
 
-/// A page of the engine that asks before it goes anywhere.
+/// A page of the engine that asks before it goes anywhere. Of its messages, those are not shown that come in
+/// a long row with no pause between them: each holds up the whole application until it is answered.
 class PanePage final : public QWebEnginePage {
 public:
     /// Whether the page may go there.
@@ -22,9 +24,28 @@ protected:
     }
     QWebEnginePage* createWindow(WebWindowType) override { return makeWindow_ ? makeWindow_() : nullptr; }
 
+    void javaScriptAlert(const QUrl& origin, const QString& text) override;
+    bool javaScriptConfirm(const QUrl& origin, const QString& text) override;
+    bool javaScriptPrompt(const QUrl& origin, const QString& text, const QString& value,
+                          QString* answer) override;
+
 private:
+    /// Shows a message by `show` unless it is one too many.
+    template <class Show>
+    bool ShowInRow(Show show) {
+        inRow_ = sinceMessage_.isValid() && sinceMessage_.elapsed() < Pause ? inRow_ + 1 : 1;
+        const bool answer = inRow_ <= MostInRow && show();
+        sinceMessage_.start();
+        return answer;
+    }
+
+    static constexpr qint64 Pause = 500; ///< in milliseconds
+    static constexpr int MostInRow = 10;
+
     Ask ask_;
     MakeWindow makeWindow_;
+    QElapsedTimer sinceMessage_;
+    int inRow_ = 0;
 };
 
 } // namespace ostrel::desktop

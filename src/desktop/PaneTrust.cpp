@@ -1,9 +1,12 @@
 #include "desktop/PaneTrust.h"
 
+#include <QMimeDatabase>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineFullScreenRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineSettings>
+
+#include "desktop/PaneSockets.h"
 
 namespace ostrel::desktop {
 
@@ -25,7 +28,13 @@ bool IsInnerDocument(QWebEngineUrlRequestInfo::ResourceType type) {
            type == QWebEngineUrlRequestInfo::ResourceTypePluginResource;
 }
 
-/// What pages, style sheets and the like are made of; a script cannot read them back as text.
+/// Data that the engine would hand to a script of the page as text, though it comes as a part of the page.
+bool IsReadAsText(const QUrl& file) {
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(FrameFiles::FileOf(file).toLocalFile());
+    return type.inherits("application/json") || type.name().endsWith("json") || type.name() == "text/vtt";
+}
+
+/// What pages are made of.
 bool IsPartOfPage(QWebEngineUrlRequestInfo::ResourceType type) {
     switch (type) {
     case QWebEngineUrlRequestInfo::ResourceTypeMainFrame:
@@ -44,14 +53,15 @@ bool IsPartOfPage(QWebEngineUrlRequestInfo::ResourceType type) {
 } // namespace
 
 PaneTrust::PaneTrust(QWebEngineProfile& profile) : frameFiles_(profile) {
+    RefuseSockets(profile);
     profile.setUrlRequestInterceptor(this);
     profile.setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
     profile.setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
     connect(&profile, &QWebEngineProfile::downloadRequested, this,
             [](QWebEngineDownloadRequest* download) { download->cancel(); });
     QWebEngineSettings& settings = *profile.settings();
-    // Without these the engine shows no pictures, style sheets and frames of a local page either, be they files
-    // or remote; what scripts may read of them is settled below.
+    // Without these the engine shows no pictures, style sheets and frames of a local page either, be they
+    // files or remote; what scripts may read of them is settled below.
     settings.setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
     settings.setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings.setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, true);
@@ -84,7 +94,8 @@ void PaneTrust::interceptRequest(QWebEngineUrlRequestInfo& request) {
     // Local files are no business of remote pages.
     if (IsRemote(request.initiator()) || IsRemote(request.firstPartyUrl())) return request.block(true);
     if (url.isLocalFile() && IsInnerDocument(type)) return request.redirect(FrameFiles::AddressOf(url));
-    if (!IsPartOfPage(type) && !IsInnerDocument(type)) request.block(true);
+    const bool shown = IsInnerDocument(type) || (IsPartOfPage(type) && !IsReadAsText(url));
+    if (!shown) request.block(true);
 }
 
 } // namespace ostrel::desktop

@@ -10,8 +10,9 @@ namespace ostrel::desktop {
 
 /// What pages may do. They are the host's own and are trusted to run scripts and to show local files, and to
 /// nothing more: no remote content while the pane is offline, no downloads, no camera, microphone, place or
-/// notifications, no reading of the clipboard. A script of a local page can read no other local page or file:
-/// its requests for files are blocked, and its frames come from `FrameFiles`.
+/// notifications, no reading of the clipboard. A script of a local page can read no other local page or data
+/// file: its requests for files are blocked, and its frames come from `FrameFiles`. The pictures and style
+/// sheets that it shows lie open to it.
 class PaneTrust final : public QWebEngineUrlRequestInterceptor {
 public:
     /// From now on all pages of the profile are held to it. It must outlive the profile's pages.

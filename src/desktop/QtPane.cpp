@@ -1,12 +1,14 @@
 #include "desktop/QtPane.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
+#include <csignal>
 
 #include "desktop/PaneAddress.h"
 #include "desktop/QtText.h"
@@ -19,6 +21,8 @@ namespace {
 constexpr TextView BlankPage = "about:blank";
 /// Names of pages are kept for as long as a history may lead back to them.
 constexpr qsizetype MostNames = 10'000;
+/// How long a page that was told to stop may leave each of two questions open, in milliseconds.
+constexpr int PatienceWithScripts = 2000;
 
 bool IsBlank(const QUrl& url) { return url.scheme() == QLatin1String("about"); }
 
@@ -68,12 +72,15 @@ void QtPane::ConnectPage() {
     connect(&QWebEnginePage::linkHovered, [this](const QString& url) { Hovered(url); });
     connect(&QWebEnginePage::renderProcessTerminated,
             [this](QWebEnginePage::RenderProcessTerminationStatus, int) {
-                if (load_) Finished(false);
+                if (load_) Finished("Can't open page " + Told(load_->url));
             });
+    deaf_.setSingleShot(true);
+    deaf_.setInterval(PatienceWithScripts);
+    QObject::connect(&deaf_, &QTimer::timeout, page, [this] { NoLife(); });
     // Frames inside the page change the history with no load of the page. A step that is about to begin, and
     // may yet be vetoed, changes the actions as well, so they are asked a while later.
     settle_.setSingleShot(true);
-    settle_.setInterval(100);
+    settle_.setInterval(300);
     QObject::connect(&settle_, &QTimer::timeout, page, [this] {
         if (!load_) TellStates();
     });
@@ -92,7 +99,6 @@ void QtPane::Navigate(const Text& url) {
         page_->load(address);
         return;
     }
-    Abandon();
     asked_ = address;
     QTimer::singleShot(0, page_.get(), [this, url, address, request = ++requests_] {
         if (request != requests_ || !asked_) return;
@@ -112,6 +118,8 @@ void QtPane::AskEngine(const QUrl& url) {
         if (!allowed) return;
         if (!inside) Begin(Way::Plain, url);
     }
+    // A script given as an address leads nowhere.
+    if (url.scheme() == QLatin1String("javascript")) asked_.reset();
     page_->load(url);
 }
 
@@ -139,8 +147,8 @@ void QtPane::GoForward() {
 void QtPane::Step(QWebEnginePage::WebAction way, const QUrl& url) {
     if (IsBlank(url)) {
         // The engine asks nobody for blank pages.
-        Abandon();
-        const unsigned request = requests_;
+        asked_.reset();
+        const unsigned request = ++requests_;
         if (!HostAllows(url, true) || request != requests_) return;
         Begin(Way::Plain, url);
     }
@@ -152,14 +160,38 @@ void QtPane::GoHome() { Navigate(Text(BlankPage)); }
 void QtPane::GoSearch() { Navigate(Text(BlankPage)); }
 
 void QtPane::Stop() {
+    ++requests_;
+    asked_.reset();
     page_->triggerAction(QWebEnginePage::Stop);
-    Abandon();
+    Halted();
+    // A script without end hears of no stop, and keeps every further page waiting.
+    if (deaf_.isActive()) return;
+    questions_ = 0;
+    AskForLife();
+}
+
+void QtPane::AskForLife() {
+    ++questions_;
+    page_->runJavaScript("0", [alarm = QPointer<QTimer>(&deaf_)](const QVariant&) {
+        if (alarm) alarm->stop();
+    });
+    deaf_.start();
+}
+
+void QtPane::NoLife() {
+    // A page that waits for the user's answer is not deaf.
+    if (QApplication::activeModalWidget()) return;
+    // The first question may have been lost with the page that was left.
+    if (questions_ < 2) return AskForLife();
+    if (const qint64 process = page_->renderProcessPid(); process > 0)
+        ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
 void QtPane::Refresh2(Long level) {
     if (shown_.isEmpty()) return;
     constexpr Long Completely = 3;
-    Abandon();
+    asked_.reset();
+    ++requests_;
     if (IsBlank(shown_)) Begin(Way::Refresh, shown_);
     page_->triggerAction(level == Completely ? QWebEnginePage::ReloadAndBypassCache : QWebEnginePage::Reload);
 }

@@ -11,6 +11,7 @@
 
 #include "desktop/BrowserWindows.h"
 #include "desktop/PanePage.h"
+#include "desktop/PaneSockets.h"
 #include "desktop/PaneTrust.h"
 #include "platform/BrowserPane.h"
 
@@ -19,10 +20,10 @@ namespace ostrel::desktop {
 /// A pane with a real browser engine. What the engine signals comes out in this order: BeforeNavigate2,
 /// DownloadBegin, StatusTextChange and ProgressChange as they come, NavigateComplete2, TitleChange, what
 /// changed of the forward and back states, StatusTextChange "done", DocumentComplete, DownloadComplete. A
-/// refresh tells no navigation and no DocumentComplete; a step inside the page on view tells no download.
-/// Where a page cannot be had the engine shows one that says why, and that one completes; the status text
-/// then says so in place of "done". Local pages are reported by the very text given to `Navigate`. The first
-/// pane of a process must come before any other use of the engine in it.
+/// refresh tells no navigation, and DocumentComplete only where it fails or is stopped; a step inside the
+/// page on view tells no download. Where a page cannot be had the engine shows one that says why, and that
+/// one completes; the status text then says so in place of "done". Local pages are reported by the very text
+/// given to `Navigate`. The first pane of a process must come before any other use of the engine in it.
 class QtPane final : public BrowserPane {
 public:
     /// The view fills `host`, which outlives the pane.
@@ -72,10 +73,16 @@ private:
     bool HostAllows(const QUrl& url, bool mainFrame);
     QWebEnginePage* OpenWindow();
     void Begin(Way way, const QUrl& url);
-    void Abandon();
+    /// Ends a page that gives no answer, since a script in it never ends.
+    void AskForLife();
+    void NoLife();
     void LoadingChanged(const QWebEngineLoadingInfo& info);
     void Started(const QUrl& url);
-    void Finished(bool shown);
+    /// Tells the end of the load in hand; an empty status is not told.
+    void Finished(const Text& status);
+    /// The load in hand was stopped. What had come of a page by then is on view and complete.
+    void Halted();
+    /// The load in hand came to nothing, or made way for another.
     void Stopped();
     /// An address that the engine knows nothing to do with.
     void Refused(const Text& address);
@@ -93,10 +100,17 @@ private:
         if (sink_) telling(*sink_);
     }
 
-    /// Before the profile there has to be the scheme that it serves.
-    struct Schemes {
-        Schemes() { FrameFiles::RegisterScheme(); }
-    } schemes_;
+    /// Once a process, before the first profile.
+    struct Engine {
+        Engine() {
+            static const bool prepared = [] {
+                FrameFiles::RegisterScheme();
+                RefuseSockets();
+                return true;
+            }();
+            (void)prepared;
+        }
+    } engine_;
     QWebEngineProfile profile_;
     PaneTrust trust_;
     std::unique_ptr<QWebEngineView> view_;
@@ -115,6 +129,8 @@ private:
     std::optional<bool> canForward_, canBack_;
     bool hovering_ = false;
     QTimer settle_;
+    QTimer deaf_;
+    int questions_ = 0; ///< put to the page since it was told to stop
 };
 
 } // namespace ostrel::desktop

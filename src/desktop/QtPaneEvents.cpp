@@ -9,6 +9,7 @@ namespace ostrel::desktop {
 namespace {
 
 constexpr Long ForwardCommand = 1, BackCommand = 2;
+const Text Done = "done";
 
 bool IsBlank(const QUrl& url) { return url.scheme() == QLatin1String("about"); }
 
@@ -37,7 +38,10 @@ bool QtPane::MayGo(const QUrl& url, QWebEnginePage::NavigationType type, bool ma
         Begin(Way::Refresh, url);
         return true;
     }
-    if (type == QWebEnginePage::NavigationTypeRedirect && load_) {
+    // A server leads elsewhere before anything has come; later on it is the page that does, and asks anew. Of
+    // a page that comes once more the engine does not tell when it is there.
+    if (type == QWebEnginePage::NavigationTypeRedirect && load_ && !load_->committed &&
+        load_->url != shown_) {
         load_->url = url;
         return true;
     }
@@ -58,16 +62,16 @@ QWebEnginePage* QtPane::OpenWindow() {
 
 void QtPane::Begin(Way way, const QUrl& url) {
     Stopped();
+    if (way == Way::Plain) windows_.OpenerLeaves();
     load_ = Load{way, url};
     hovering_ = false;
     Tell([](BrowserSink& sink) { sink.DownloadBegin(); });
     TellStatus("Opening page " + Told(url) + "...");
 }
 
-void QtPane::Abandon() {
-    ++requests_;
-    asked_.reset();
-    Stopped();
+void QtPane::Halted() {
+    const bool onView = load_ && load_->way != Way::Quiet && (load_->committed || load_->way == Way::Refresh);
+    onView ? Finished({}) : Stopped();
 }
 
 void QtPane::Stopped() {
@@ -84,13 +88,14 @@ void QtPane::LoadingChanged(const QWebEngineLoadingInfo& info) {
     case QWebEngineLoadingInfo::LoadStartedStatus:
         return Started(info.url());
     case QWebEngineLoadingInfo::LoadStoppedStatus:
-        if (load_ && load_->started && load_->url == info.url()) Stopped();
+        // Where the host forbade the page to lead on, the engine names the place that it led to.
+        if (load_ && load_->started && (load_->committed || load_->url == info.url())) Halted();
         if (asked_ && *asked_ == info.url()) Refused(Told(info.url()));
         return;
     case QWebEngineLoadingInfo::LoadSucceededStatus:
-        return inHand ? Finished(true) : void();
+        return inHand ? Finished(Done) : void();
     case QWebEngineLoadingInfo::LoadFailedStatus:
-        return inHand ? Finished(false) : void();
+        return inHand ? Finished("Can't open page " + Told(load_->url)) : void();
     }
 }
 
@@ -110,14 +115,14 @@ void QtPane::Refused(const Text& address) {
 
 void QtPane::UrlChanged() {
     shown_ = page_->url();
-    if (load_)
-        Commit();
-    else
-        MovedInsidePage();
+    if (!load_) return MovedInsidePage();
+    Commit();
+    // Right behind a page that was stopped the engine tells neither begin nor end of a blank one.
+    if (IsBlank(shown_) && !page_->isLoading()) Finished(Done);
 }
 
 void QtPane::MovedInsidePage() {
-    asked_.reset();
+    if (asked_ == shown_) asked_.reset();
     const Text url = Told(shown_);
     Tell([&](BrowserSink& sink) { sink.NavigateComplete2(url, true); });
     TellStates();
@@ -144,7 +149,7 @@ void QtPane::Hovered(const QString& url) {
     TellStatus(hovering_ ? Told(QUrl(url)) : Text());
 }
 
-void QtPane::Finished(bool shown) {
+void QtPane::Finished(const Text& status) {
     if (!load_) return;
     shown_ = page_->url();
     Commit();
@@ -161,8 +166,9 @@ void QtPane::Finished(bool shown) {
     if (ends()) return;
     // From here on a listener may start the next load; this one is told to its end.
     load_.reset();
-    TellStatus(shown ? Text("done") : "Can't open page " + Told(load.url));
-    if (load.way == Way::Plain) Tell([&](BrowserSink& sink) { sink.DocumentComplete(url, true); });
+    if (!status.empty()) TellStatus(status);
+    if (load.way == Way::Plain || status != Done)
+        Tell([&](BrowserSink& sink) { sink.DocumentComplete(url, true); });
     Tell([](BrowserSink& sink) { sink.DownloadComplete(); });
 }
 

@@ -3,41 +3,14 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTest>
-#include <QWebEngineDownloadRequest>
 
 #include "desktop/DesktopBench.h"
+#include "desktop/LocalServer.h"
 
 namespace ostrel::test {
 
 namespace {
-
-/// A web server on this machine that counts who comes. It answers with a page, or never.
-class LocalServer {
-public:
-    explicit LocalServer(bool answers) {
-        server_.listen(QHostAddress::LocalHost);
-        QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this, answers] {
-            QTcpSocket* socket = server_.nextPendingConnection();
-            ++visits;
-            if (!answers) return;
-            QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket] {
-                socket->readAll();
-                socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n\r\n"
-                              "<TITLE>Remote</TITLE>remote");
-                socket->disconnectFromHost();
-            });
-        });
-    }
-    Text Address() const { return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + "/"; }
-
-    int visits = 0;
-
-private:
-    QTcpServer server_;
-};
 
 /// Resident memory of this process and of the engine's processes below it, in megabytes.
 double ResidentMegabytes() {
@@ -292,7 +265,7 @@ void PaneTest::NamesOfPagesComeBack() {
 
 void PaneTest::StopEndsLoad() {
     DesktopBench bench;
-    LocalServer server(false);
+    LocalServer server;
     bench.Web().Offline(false);
     bench.Web().ToolbarVisible(true);
     Text error;
@@ -308,23 +281,6 @@ void PaneTest::StopEndsLoad() {
                        "ToolbarClick Stop False", "StatusTextChange Cancel...", "DownloadComplete"}));
     QVERIFY(!bench.Web().Busy());
     QVERIFY2(bench.Load(bench.Page("a.htm")), "the pane goes on");
-}
-
-void PaneTest::RemoteLoadsOnlyOnline() {
-    DesktopBench bench;
-    LocalServer server(true);
-    const Text page = bench.Page("p.htm", "<TITLE>p</TITLE><IMG SRC=" + server.Address() +
-                                              "i.png><IFRAME SRC=" + server.Address() + "></IFRAME>");
-    QVERIFY2(bench.Web().Offline(), "a new control is");
-    QVERIFY(bench.Load(page));
-    QVERIFY(bench.Load(server.Address()));
-    QTest::qWait(300);
-    QCOMPARE(server.visits, 0);
-    bench.Web().Offline(false);
-    QVERIFY(bench.Load(page));
-    QVERIFY2(server.visits >= 2, "the picture and the frame");
-    QVERIFY(bench.Load(server.Address()));
-    QCOMPARE(bench.Web().LocationName(), Text("Remote"));
 }
 
 void PaneTest::TargetsAreFound() {
@@ -355,48 +311,6 @@ void PaneTest::TargetsAreFound() {
     QTRY_COMPARE(windows.Standing().size(), std::size_t{2});
     QVERIFY(bench.Web().LoadURLToTarget(a, "_self", error));
     QVERIFY(bench.Until("DocumentComplete " + a));
-}
-
-void PaneTest::PagesAreHeldBack() {
-    DesktopBench bench;
-    bench.directory.Write("data.zip", std::string("PK\3\4 and so on\0\1", 16));
-    bench.directory.Write("secret.htm", "<TITLE>s</TITLE>secret");
-    const Text page = bench.Page(
-        "p.htm", "<TITLE>p</TITLE><A HREF=data.zip DOWNLOAD>d</A><IFRAME SRC=secret.htm></IFRAME>");
-    QVERIFY(bench.Load(page));
-    bench.Script(R"(window.seen = {};
-        const note = (name, promise) => promise.then(() => seen[name] = 'open', () => seen[name] = 'shut');
-        try { seen.frame = frames[0].document.body.innerText; } catch (e) { seen.frame = 'shut'; }
-        note('fetch', fetch('secret.htm').then(r => r.text()));
-        note('request', new Promise((good, bad) => { const x = new XMLHttpRequest();
-            x.onload = good; x.onerror = bad; x.open('GET', 'secret.htm'); x.send(); }));
-        note('place', new Promise((good, bad) => navigator.geolocation.getCurrentPosition(good, bad)));
-        note('notice', Notification.requestPermission().then(p => { if (p !== 'granted') throw p; }));
-        seen.paste = document.execCommand('paste') ? 'open' : 'shut'; 0)");
-    const auto seen = [&](const char* what) { return bench.Script(QString("seen.") + what).toString(); };
-    for (const char* what : {"frame", "fetch", "request", "place", "notice", "paste"}) {
-        QVERIFY2(WaitUntil([&] { return !seen(what).isEmpty(); }), what);
-        QVERIFY2(seen(what) == "shut", what);
-    }
-    // Where the engine does not even offer the interface it is shut as well.
-    bench.Script(
-        "navigator.mediaDevices ? note('camera', navigator.mediaDevices.getUserMedia({video: true})) : seen.camera = 'shut'; 0");
-    bench.Script(
-        "navigator.clipboard ? note('clipboard', navigator.clipboard.readText()) : seen.clipboard = 'shut'; 0");
-    for (const char* what : {"camera", "clipboard"}) {
-        QVERIFY2(WaitUntil([&] { return !seen(what).isEmpty(); }), what);
-        QVERIFY2(seen(what) == "shut", what);
-    }
-    bool asked = false, ended = false;
-    connect(bench.View().page()->profile(), &QWebEngineProfile::downloadRequested, this,
-            [&](QWebEngineDownloadRequest* download) {
-                asked = true;
-                ended = download->state() == QWebEngineDownloadRequest::DownloadCancelled;
-            });
-    bench.ClickElement("document.links[0]");
-    QVERIFY(WaitUntil([&] { return asked; }));
-    QVERIFY(ended);
-    QCOMPARE(bench.Web().LocationURL(), page);
 }
 
 void PaneTest::FindsAndZooms() {

@@ -20,9 +20,18 @@ private slots:
     void HelpPageCompletes();
     void NamesOfPagesComeBack();
     void StopEndsLoad();
+    void WhatHasComeBeforeAStopCompletes();
+    void RefreshThatFailsCompletes();
+    void PageThatLeadsOnAsks();
+    void LoadThatIsNotReplacedGoesOn();
+    void PagesWithoutEndAreEnded();
     void RemoteLoadsOnlyOnline();
     void TargetsAreFound();
     void PagesAreHeldBack();
+    void DataFilesAreNotRead();
+    void WrittenWindowsGoWithTheirPage();
+    void RemotePagesNameNoFile();
+    void PagesHaveNoSockets();
     void FindsAndZooms();
     void DocumentTextIsRead();
     void ManyLoadsKeepNothing();
