@@ -4,6 +4,7 @@
 #include <QPixmap>
 #include <utility>
 
+#include "desktop/LineText.h"
 #include "desktop/QtScreen.h"
 #include "desktop/QtText.h"
 #include "desktop/ToolbarGlyphs.h"
@@ -26,7 +27,7 @@ void SyncChild(const Child& child, QWidget& widget) {
                widget.cursor().shape() != CursorOf(child.pointer)) {
         widget.setCursor(CursorOf(child.pointer));
     }
-    if (const QString tip = ToQt(child.tip); widget.toolTip() != tip) widget.setToolTip(tip);
+    if (const QString tip = TipText(child.tip); widget.toolTip() != tip) widget.setToolTip(tip);
 }
 
 Integer ButtonsOf(Qt::MouseButtons buttons) {
@@ -147,7 +148,8 @@ void ControlView::Sync() {
     if (children.fraStop.visible) stopPanel_->raise();
     if (const bool enabled = web_->Enabled(); std::exchange(enabled_, enabled) != enabled)
         surface_.setEnabled(enabled);
-    if (const QString tip = ToQt(web_->ControlToolTip()); surface_.toolTip() != tip) surface_.setToolTip(tip);
+    if (const QString tip = TipText(web_->ControlToolTip()); surface_.toolTip() != tip)
+        surface_.setToolTip(tip);
     syncing_ = false;
 }
 

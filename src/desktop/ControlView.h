@@ -25,8 +25,8 @@ public:
     explicit ControlView(QWidget& surface);
 
     QWidget& PaneHost() { return *paneHost_; }
-    /// From now on shows and works this control.
-    void Attach(OstrelWebHelp& web) { web_ = &web; }
+    /// From now on shows and works this control; null for none.
+    void Attach(OstrelWebHelp* web) { web_ = web; }
     /// Brings the widgets up to date. Costs little where nothing has changed.
     void Sync();
     /// The widget of the child of that name; null for none.

@@ -36,14 +36,19 @@ OstrelWebHelpWidget::OstrelWebHelpWidget(QWidget* parent, EventList::AnyListener
         left = static_cast<Long>(twips.FromAcross(corner.x()));
     });
     web_->InitProperties();
-    view_->Attach(*web_);
+    view_->Attach(web_.get());
     // The model tells of no change by itself; before the loop sleeps the widgets are brought up to date.
     if (auto* loop = QAbstractEventDispatcher::instance())
         connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, [this] { Sync(); });
     AddShortcuts();
 }
 
-OstrelWebHelpWidget::~OstrelWebHelpWidget() = default;
+OstrelWebHelpWidget::~OstrelWebHelpWidget() {
+    // What the control tells of its end may still turn the loop, in which the widgets look at it.
+    web_->Terminate();
+    view_->Attach(nullptr);
+    web_.reset();
+}
 
 void OstrelWebHelpWidget::AddShortcuts() {
     auto* find = new FindBar(pane_->View());

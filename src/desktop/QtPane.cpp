@@ -163,7 +163,11 @@ void QtPane::Stop() {
     ++requests_;
     asked_.reset();
     page_->triggerAction(QWebEnginePage::Stop);
-    Halted();
+    if (load_) load_->halting = true;
+    // Whoever stops the pane hears of it behind the call.
+    QTimer::singleShot(0, page_.get(), [this] {
+        if (load_ && load_->halting) Halted();
+    });
     // A script without end hears of no stop, and keeps every further page waiting.
     if (deaf_.isActive()) return;
     questions_ = 0;
@@ -209,7 +213,7 @@ Text QtPane::LocationURL() const { return Told(shown_); }
 Long QtPane::ReadyState() const {
     constexpr Long Uninitialised = 0, Loading = 1, Interactive = 3, Complete = 4;
     if (asked_) return Loading;
-    if (load_) return load_->committed ? Interactive : Loading;
+    if (load_ && !load_->halting) return load_->committed ? Interactive : Loading;
     return shown_.isEmpty() ? Uninitialised : Complete;
 }
 

@@ -44,7 +44,7 @@ public:
     void ExecWB(Long command, Long option) override;
     Text LocationName() const override;
     Text LocationURL() const override;
-    bool Busy() const override { return load_ || asked_; }
+    bool Busy() const override { return (load_ && !load_->halting) || asked_; }
     Long ReadyState() const override;
     bool Offline() const override { return trust_.Offline(); }
     void Offline(bool offline) override { trust_.Offline(offline); }
@@ -64,6 +64,7 @@ private:
         QUrl url;
         bool started = false;
         bool committed = false;
+        bool halting = false; ///< it was told to stop, and its end is about to be told
     };
 
     void ConnectPage();
