@@ -15,13 +15,14 @@ private slots:
     /// Every function finds the settings of a first start.
     void init();
 
+    void WindowAnswersDuringARun();
     void StopEndsARun();
     void StopEndsReading();
     void PagesThatFailAreNamed();
     void CloseEndsTheRunFirst();
 
 private:
-    std::unique_ptr<ostrel::test::TemporaryDirectory> settings_;
+    std::unique_ptr<TemporaryDirectory> settings_;
 };
 
 } // namespace ostrel::test
