@@ -186,7 +186,7 @@ void ReadSqliteTable(const std::string& path, const std::string& query, const st
             finder.Look(static_cast<std::size_t>(i), table.cells.Cells()[table.cells.Count() - 1].Plain());
         }
     }
-    if (table.rows == 0) run.Fail("the query gives no rows.");
+    if (table.rows == 0) run.Fail(query.empty() ? "the table has no rows." : "the query gives no rows.");
     table.types = finder.Types();
 }
 

@@ -88,6 +88,8 @@ QVariant ColumnsModel::data(const QModelIndex& index, int role) const {
     const auto column = static_cast<std::size_t>(row - 1);
     if (role == Qt::ToolTipRole && column >= ColumnReach)
         return QString("The options of a report reach the first %1 columns.").arg(ColumnReach);
+    if (role == Qt::ToolTipRole && section == TotalSection && !choices_[column].Countable())
+        return "Only a column whose values are all numbers, or all times, can be summed.";
     if (section == NameSection && (role == Qt::DisplayRole || role == Qt::ToolTipRole))
         return names_[row - 1];
     if (section == KindSection && role == Qt::DisplayRole) return KindName(choices_[column].kind);

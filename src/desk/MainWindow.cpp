@@ -55,6 +55,7 @@ void MainWindow::OpenTable(const QString& path, const QString& table) {
         const Work::Turn turn(work_, "Reading " + name + "…");
         reading = ReadTableFile(path, table, work_);
     }
+    if (!reading.file && file_) options_->MarkTable(file_.chosen);
     if (!reading.trouble.isEmpty()) return notice_->TellTrouble(reading.trouble);
     if (!reading.file) return statusBar()->showMessage("Reading " + name + " was stopped.");
     file_ = std::move(reading.file);

@@ -23,6 +23,8 @@ public:
 
     /// Shows that file with that plan.
     void ShowFile(const TableFile& file, const ReportPlan& plan);
+    /// The table of the file that the panel is about, where another could not be read.
+    void MarkTable(const QString& name) { tables_.setCurrentText(name); }
     /// What is chosen now.
     ReportPlan Plan() const;
     void SetDirectory(const QString& directory);

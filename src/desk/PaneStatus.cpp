@@ -33,7 +33,10 @@ void PaneStatus::Listen() {
     Events& events = widget_.Web().events;
     events.TitleChange.Listen([this](Text&) { ShowTitle(); });
     events.StatusTextChange.Listen([this](Text& text) { ShowStatus(text); });
-    events.BeforeNavigate2.Listen([this](Text&, Text&, Flag&) { widget_.Web().ClockStart(); });
+    events.BeforeNavigate2.Listen([this](Text&, Text&, Flag&) {
+        widget_.Web().ClockStart();
+        UpdateWaysSoon();
+    });
     events.DownloadTime.Listen([this](Text& seconds) { seconds_.setText(desktop::ToQt(seconds) + " s"); });
     events.DocumentComplete.Listen([this](Text& url, Text&) { PageLoaded(url); });
     events.HelpPageComplete.Listen([this](Text& url, Text&) { PageLoaded(url); });
@@ -74,6 +77,12 @@ void PaneStatus::UpdateWaysSoon() {
 
 void PaneStatus::UpdateWays() {
     OstrelWebHelp& web = widget_.Web();
+    if (!web.Busy() && web.ToolbarButtonEnabled("stop") && !work_.Running()) {
+        // What was vetoed, stopped or refused completes nothing, and there is nothing left to stop.
+        web.ToolbarButtonEnabledSet("stop", false);
+        web.ToolbarButtonEnabledSet("refresh", true);
+        web.ClockStop();
+    }
     for (const auto& [action, button] :
          {std::pair{actions_.back, "back"}, {actions_.forward, "forward"}, {actions_.refresh, "refresh"}})
         action->setEnabled(web.ToolbarButtonEnabled(button));

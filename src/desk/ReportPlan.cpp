@@ -41,7 +41,7 @@ qint64 ReportPlan::TablePages() const {
 
 ReportPlan FirstPlan(const cli::InputTable& table) {
     ReportPlan plan;
-    for (const cli::ColumnType kind : table.types) plan.columns.push_back({.kind = kind});
+    for (const cli::ColumnType kind : table.types) plan.columns.push_back({.kind = kind, .found = kind});
     return plan;
 }
 

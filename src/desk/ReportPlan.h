@@ -10,12 +10,16 @@ namespace ostrel::desk {
 
 /// What becomes of one column.
 struct ColumnChoice {
-    cli::ColumnType kind = cli::ColumnType::Text;
+    cli::ColumnType kind = cli::ColumnType::Text;  ///< what it is taken for
+    cli::ColumnType found = cli::ColumnType::Text; ///< what all its values are
     bool show = true;
     bool sort = true;
     bool total = false;
 
-    bool Countable() const { return kind == cli::ColumnType::Number || kind == cli::ColumnType::Time; }
+    /// A sum of values that are no numbers would be wrong without a word.
+    bool Countable() const {
+        return kind == found && (kind == cli::ColumnType::Number || kind == cli::ColumnType::Time);
+    }
     bool Sorted() const { return show && sort; }
     bool Totalled() const { return show && total && Countable(); }
 };

@@ -40,11 +40,20 @@ private:
 void ReadDatabase(const QString& wanted, TableFile& file, Work& work) {
     const std::string path = file.path.toStdString();
     for (const std::string& name : cli::SqliteTableNames(path)) file.tables << QString::fromStdString(name);
-    file.chosen = file.tables.contains(wanted) ? wanted : file.tables.front();
-    cli::ReadSqliteTable(path, "", file.chosen.toStdString(), *file.table, [&work] {
-        work.Show(0);
-        return work.GiveWay();
-    });
+    // Where nobody has chosen yet, the first table that has rows serves; the others can be chosen then.
+    const QStringList candidates = file.tables.contains(wanted) ? QStringList{wanted} : file.tables;
+    for (const QString& candidate : candidates) {
+        file.chosen = candidate;
+        file.table = std::make_shared<cli::InputTable>(cli::Markup::Escape);
+        try {
+            return cli::ReadSqliteTable(path, "", candidate.toStdString(), *file.table, [&work] {
+                work.Show(0);
+                return work.GiveWay();
+            });
+        } catch (const cli::InputError&) {
+            if (candidate == candidates.back()) throw;
+        }
+    }
 }
 
 } // namespace

@@ -13,7 +13,10 @@ constexpr std::size_t PieceSize = std::size_t{1} << 20;
 } // namespace
 
 ssize_t YieldingCalls::Read(int file, char* buffer, std::size_t size) {
-    work_.GiveWay();
+    if (work_.GiveWay()) {
+        errno = ECANCELED;
+        return -1;
+    }
     return SystemCalls::Read(file, buffer, size);
 }
 

@@ -6,7 +6,7 @@
 namespace ostrel::desk {
 
 /// The system's calls for files that may be large: they are read and written in pieces, between which the
-/// windows answer, and what is being written when the user stops the work is given up.
+/// windows answer, and what is being read or written when the user stops the work is given up.
 class YieldingCalls final : public SystemCalls {
 public:
     explicit YieldingCalls(Work& work) : work_(work) {}

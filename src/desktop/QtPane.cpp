@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWebEngineDownloadRequest>
 #include <QWebEngineHistory>
 #include <csignal>
 
@@ -74,6 +75,10 @@ void QtPane::ConnectPage() {
             [this](QWebEnginePage::RenderProcessTerminationStatus, int) {
                 if (load_) Finished("Can't open page " + Told(load_->url));
             });
+    QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, page,
+                     [this](const QWebEngineDownloadRequest* download) {
+                         TellStatus("Can't open page " + Told(download->url()));
+                     });
     deaf_.setSingleShot(true);
     deaf_.setInterval(PatienceWithScripts);
     QObject::connect(&deaf_, &QTimer::timeout, page, [this] { NoLife(); });

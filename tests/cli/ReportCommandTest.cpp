@@ -251,7 +251,7 @@ TEST(ReportCommand, ReadsQueriesOfADatabase) {
     for (const auto& [options, sentence] : std::vector<std::pair<std::string, std::string>>{
              {"", "there are several tables; choose one with --table: items, other."},
              {"--table nothing", "there is no table [nothing]; there is items, other."},
-             {"--table other", "the query gives no rows."},
+             {"--table other", "the table has no rows."},
              {"--query ''", "there are several tables; choose one with --table: items, other."},
              {"--query 'SELEC'", "the query can't be run: near \"SELEC\": syntax error."},
              {"--query 'SELECT 1; SELECT 2'", "the query is more than one statement."},

@@ -10,6 +10,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTest>
 
@@ -95,6 +96,11 @@ void DeskTest::OptionsShapeTheReport() {
     DeskBench bench;
     bench.directory.Write("prices.csv", "Name,Price,Code\nPear,2.5,1\nApple,1,2\nPlum,0.25,3\n");
     bench.Open("prices.csv");
+    // Texts that are taken for numbers are sorted so, and never summed.
+    auto* columns = bench.Part<QTableView>("columns")->model();
+    columns->setData(columns->index(1, ColumnsModel::KindSection), static_cast<int>(cli::ColumnType::Number));
+    QVERIFY(!columns->flags(columns->index(1, ColumnsModel::TotalSection)).testFlag(Qt::ItemIsEnabled));
+    columns->setData(columns->index(1, ColumnsModel::KindSection), static_cast<int>(cli::ColumnType::Text));
     bench.Part<QLineEdit>("title")->setText("Fruit & more");
     ClickColumn(bench, 0, ColumnsModel::SortSection); // none is sorted
     ClickColumn(bench, 1, ColumnsModel::SortSection); // but the name
@@ -133,19 +139,34 @@ void DeskTest::TableLinkIsLeftToOthers() {
     QDesktopServices::unsetUrlHandler("file");
     QCOMPARE(opened_.toLocalFile(), bench.Output() + "/prices.csv");
     QCOMPARE(bench.Page(), QString("prices.htm"));
+    QVERIFY2(WaitUntil([&] { return !bench.Part<QWidget>("cmdStop2")->isEnabled(); }), "nothing loads");
+
+    // What is no page at all is refused in words.
+    bench.directory.Write("data.zip", std::string("PK\3\4 and so on\0\1", 16));
+    Text error;
+    bench.window->Widget().Web().LoadURL(bench.directory.Component("data.zip"), error);
+    QVERIFY(
+        WaitUntil([&] { return bench.window->statusBar()->currentMessage().contains("Can't open page"); }));
+    QVERIFY(WaitUntil([&] { return !bench.Part<QWidget>("cmdStop2")->isEnabled(); }));
+    QVERIFY(bench.Action("refresh")->isEnabled());
 }
 
 void DeskTest::DatabaseTableIsChosen() {
     DeskBench bench;
     MakeDatabase(bench.directory.Path("shop.db"),
-                 "CREATE TABLE customers(name, city); CREATE TABLE items(name, price, stock);"
+                 "CREATE TABLE bare(name); CREATE TABLE customers(name, city);"
+                 "CREATE TABLE items(name, price, stock);"
                  "INSERT INTO customers VALUES ('Ann', 'Bern'); INSERT INTO items VALUES ('Pen', 1.5, 7);");
     bench.Open("shop.db");
     auto* tables = bench.Part<QComboBox>("tables");
     QVERIFY(tables->isVisible());
-    QCOMPARE(tables->count(), 2);
+    QCOMPARE(tables->count(), 3);
+    QCOMPARE(tables->currentText(), QString("customers"));
     QCOMPARE(bench.Part<QTableView>("columns")->model()->rowCount(), 3);
     tables->setFocus();
+    QTest::keyClick(tables, Qt::Key_Up);
+    QVERIFY(bench.window->Trouble().contains("the table has no rows."));
+    QCOMPARE(tables->currentText(), QString("customers"));
     QTest::keyClick(tables, Qt::Key_Down);
     QCOMPARE(bench.Part<QTableView>("columns")->model()->rowCount(), 4);
     bench.window->SetOutputDirectory(bench.Output());
