@@ -78,7 +78,14 @@ void QtPane::ConnectPage() {
     QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, page,
                      [this](const QWebEngineDownloadRequest* download) {
                          TellStatus("Can't open page " + Told(download->url()));
+                         // The engine does not always tell that the load has come to nothing.
+                         if (load_ && !load_->committed && load_->url == download->url()) Stopped();
                      });
+    // For some pages the engine takes another widget, and the focus of the old one would go anywhere.
+    QObject::connect(qApp, &QApplication::focusChanged, view_.get(), [this](QWidget* old, QWidget* now) {
+        if (old && now && view_->isAncestorOf(old) && !old->isVisible() && !view_->isAncestorOf(now))
+            QTimer::singleShot(0, view_.get(), [this] { Focus(); });
+    });
     deaf_.setSingleShot(true);
     deaf_.setInterval(PatienceWithScripts);
     QObject::connect(&deaf_, &QTimer::timeout, page, [this] { NoLife(); });

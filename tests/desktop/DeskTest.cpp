@@ -92,6 +92,26 @@ void DeskTest::ReportIsWalkedByClicks() {
     QVERIFY(WaitUntil([&] { return bench.Page() == "quakes.htm"; }));
 }
 
+void DeskTest::FocusStaysWithThePage() {
+    DeskBench bench;
+    bench.directory.Write("prices.csv", "Name,Price\nPear,2.5\n");
+    bench.Open("prices.csv");
+    bench.Action("address")->setChecked(true);
+    bench.window->Widget().Sync();
+    bench.window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+    auto* line = bench.Part<QLineEdit>("txtURL");
+    line->setFocus();
+    line->selectAll();
+    // The engine shows its page of what is blocked in another widget than the page before.
+    const QWidget* before = bench.View().focusProxy();
+    QTest::keyClicks(line, "http://127.0.0.1:9/");
+    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(WaitUntil([&] { return bench.View().focusProxy() != before; }));
+    QVERIFY(bench.Settle());
+    QVERIFY(WaitUntil([&] { return bench.View().focusProxy()->hasFocus(); }));
+}
+
 void DeskTest::OptionsShapeTheReport() {
     DeskBench bench;
     bench.directory.Write("prices.csv", "Name,Price,Code\nPear,2.5,1\nApple,1,2\nPlum,0.25,3\n");

@@ -17,6 +17,7 @@ private slots:
     void init();
 
     void ReportIsWalkedByClicks();
+    void FocusStaysWithThePage();
     void OptionsShapeTheReport();
     void TableLinkIsLeftToOthers();
     void DatabaseTableIsChosen();
