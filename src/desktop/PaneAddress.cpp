@@ -40,6 +40,8 @@ QUrl UrlOf(const Text& address) {
     return url;
 }
 
+bool IsBlank(const QUrl& url) { return url.scheme() == QLatin1String("about"); }
+
 Text AddressOf(const QUrl& url) {
     if (!url.isLocalFile() || url.hasQuery()) return FromQt(url.toString(QUrl::FullyEncoded));
     const auto path = NativePaths::FromSystem(url.toLocalFile().toStdString());

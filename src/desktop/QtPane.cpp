@@ -25,8 +25,6 @@ constexpr qsizetype MostNames = 10'000;
 /// How long a page that was told to stop may leave each of two questions open, in milliseconds.
 constexpr int PatienceWithScripts = 2000;
 
-bool IsBlank(const QUrl& url) { return url.scheme() == QLatin1String("about"); }
-
 QString Quoted(const QString& text) {
     const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(list.mid(1, list.size() - 2));

@@ -1,6 +1,7 @@
 #include <QTimer>
 #include <QWebEngineHistory>
 
+#include "desktop/PaneAddress.h"
 #include "desktop/QtPane.h"
 #include "desktop/QtText.h"
 
@@ -10,8 +11,6 @@ namespace {
 
 constexpr Long ForwardCommand = 1, BackCommand = 2;
 const Text Done = "done";
-
-bool IsBlank(const QUrl& url) { return url.scheme() == QLatin1String("about"); }
 
 /// Until a page has told its title the engine makes do with its file's name or its address.
 bool IsStandIn(const QString& title, const QUrl& url) {
