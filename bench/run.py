@@ -198,9 +198,48 @@ class Bench:
         row("Slowest shape but long prefixes / random", max(
             value for name, value in cost.items() if name.startswith("sort.") and "prefix" not in name)
             / cost["sort.random"], "about 1")
+        row("Searching a text as it is / prepared", cost["count-unprepared.help"] / cost["count-prepared.help"],
+            "at least 8")
+        row("Counting place by place in a prepared text / by phrase",
+            cost["count-text.help"] / cost["count-prepared.help"], "at least 2")
         for name, value in cost.items():
             if not name.startswith("sort"):
                 print(f"  {name:<58} {value * 1000:7.1f}  ms for 10 MB")
+
+    def editing(self) -> None:
+        print("\nThe text of an editor: an insertion in its middle, undo, memory")
+        figures = {}
+        for line in run(self.tool("bench-editing")).output.splitlines():
+            name, value = line.split()
+            figures[name] = float(value)
+        for size in (1, 8, 64):
+            of = {name.split(".")[0]: value for name, value in figures.items() if name.endswith(f".{size}")}
+            row(f"Insertion in the middle of {size} MB: plain string / buffer",
+                of["insert-string"] / of["insert"], "at least 10", f"{of['insert'] * 1e6:.2f} us")
+            row(f"Edit anywhere in {size} MB / undo of it", of["insert-anywhere"] / of["undo"], "about 1",
+                f"{of['insert-anywhere'] * 1e6:.2f} us")
+            row(f"Opening of {size} MB / a copy of the string", of["open"] / of["copy"], "at most 5",
+                seconds(of["open"]))
+            row(f"Memory of {size} MB, opened / text", of["memory"], "at most 1.5")
+            row(f"Memory of {size} MB, edited anywhere / text", of["memory-edited"], "at most 3")
+
+    def typing(self) -> None:
+        if not self.tool("bench-typing").exists():
+            return
+        print("\nThe text of an editor in a window, beside the toolkit's bare control without its history")
+        figures = {}
+        for line in run(self.tool("bench-typing")).output.splitlines():
+            name, value = line.split()
+            figures[name] = float(value)
+        for size in ("1", "8", "64", "line"):
+            of = {name.split(".")[0]: value for name, value in figures.items() if name.endswith(f".{size}")}
+            text = "one line of 1 MB" if size == "line" else f"{size} MB"
+            more = of["key"] - of["key-bare"]
+            row(f"A key in the middle of {text}: ms beyond the bare control's", more * 1000, "at most 5",
+                f"{of['key'] * 1e3:.2f} / {of['key-bare'] * 1e3:.2f} ms")
+            row(f"Opening {text} / the bare control", of["open"] / of["open-bare"], "at most 2", seconds(of["open"]))
+            row(f"Memory of {text} beside what the bare control holds / text", of["memory"], "at most 3")
+            row(f"ReplaceSelection in {text}, without a window: ms", of["insert-at-selection"] * 1000, "at most 1")
 
 
 def main() -> None:
@@ -209,11 +248,12 @@ def main() -> None:
     parser.add_argument("--large", action="store_true", help="measure 1,000,000 rows as well")
     parser.add_argument("--runs", type=int, default=3, help="runs a figure")
     parser.add_argument("--records", type=int, default=100_000, help="record pages to make")
-    parser.add_argument("--only", choices=["main", "arrays", "sort", "records", "services"], action="append")
+    parser.add_argument("--only", choices=["main", "arrays", "sort", "records", "services", "editing", "typing"],
+                        action="append")
     parser.add_argument("--folder", type=pathlib.Path, help="where the files go for the time being")
     options = parser.parse_args()
 
-    chosen = options.only or ["main", "arrays", "sort", "services", "records"]
+    chosen = options.only or ["main", "arrays", "sort", "services", "editing", "typing", "records"]
     folder = pathlib.Path(tempfile.mkdtemp(prefix="ostrel-bench-", dir=options.folder))
     bench = Bench(options.bin.resolve(), folder, options.runs, options.records)
     print(f"{'':60} {'ratio':>7}  wanted")
@@ -226,6 +266,10 @@ def main() -> None:
         if options.large and "main" in chosen:
             row("CPU of ten times the rows / of the rows", bench.main_cpu[1_000_000] / bench.main_cpu[100_000],
                 "at most 12")
+        if "editing" in chosen:
+            bench.editing()
+        if "typing" in chosen:
+            bench.typing()
         if "records" in chosen:
             bench.record_pages()
     finally:

@@ -8,6 +8,7 @@
 
 #include "plain.h"
 #include "plain_sort.h"
+#include "services/PreparedSearch.h"
 #include "services/SortKeys.h"
 #include "services/Sorting.h"
 #include "services/TagText.h"
@@ -117,6 +118,24 @@ void Texts() {
     Print("replace", "page", Median(3, nothing, [&] { ReplaceAll(page, "&nbsp;", " "); }));
     Print("replace-text", "page", Median(3, nothing, [&] { ReplaceAllText(page, "&NBSP;", " "); }));
     Print("find-text", "page", Median(3, nothing, [&] { FindText(page, "some text of a cellar"); }));
+    // Words as rare as in pages of help, and one that ends in rare characters.
+    std::mt19937 random(5);
+    std::vector<std::string> words;
+    for (int i = 0; i < 5000; ++i) {
+        std::string word;
+        for (unsigned length = 2 + random() % 8; length > 0; --length)
+            word += "etaoinsrhldcumfpgwybvkxjqzeeettaaoinsr"[random() % 38];
+        words.push_back(word);
+    }
+    std::string help;
+    while (help.size() < size) help += words[random() % words.size()] + (random() % 12 ? " " : "\r\n");
+    const services::SearchText prepared(help);
+    const services::SearchPhrase phrase("Sorted", false, false);
+    Print("count-unprepared", "help", Median(3, nothing, [&] {
+              CountText(services::NormaliseSearchText(help), services::NormaliseSearchText("Sorted"));
+          }));
+    Print("count-text", "help", Median(3, nothing, [&] { CountText(prepared.Normalised(), "Sorted"); }));
+    Print("count-prepared", "help", Median(3, nothing, [&] { phrase.CountIn(prepared); }));
     const std::string almost(2000, 'a');
     const std::string many(size, 'a');
     Print("find-text", "repeated", Median(1, nothing, [&] { FindText(many, almost + "b"); }));

@@ -3,6 +3,9 @@ find_package(nlohmann_json REQUIRED)
 find_package(CLI11 REQUIRED)
 find_package(SQLite3 REQUIRED)
 
+# Makes a source of the bridge; nothing of it is in what is built.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
 find_path(CSV_INCLUDE_DIR csv.h REQUIRED)
 find_library(CSV_LIBRARY NAMES csv REQUIRED)
 add_library(ostrel_csv INTERFACE)

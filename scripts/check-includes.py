@@ -12,12 +12,12 @@ FLOORS = [
     ["html", "ui"],
     ["tablepages", "help", "net", "editors"],
     ["control"],
-    ["bridge"],
+    ["bridge", "tables"],
     ["cli", "desktop", "desk"],
 ]
 FLOOR_OF = {folder: number for number, folders in enumerate(FLOORS) for folder in folders}
-# The host application is made of the windowed layer, and reads tables as the command line does.
-ALLOWED_NEIGHBOURS = {("desk", "desktop"), ("desk", "cli")}
+# The host application is made of the windowed layer.
+ALLOWED_NEIGHBOURS = {("desk", "desktop")}
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 
 

@@ -27,6 +27,8 @@ void DescribeMember(JsonWriter& writer, const Member& member) {
         writer.EndObject();
     }
     writer.EndArray();
+    writer.Key("doc");
+    writer.Utf8(member.doc);
     writer.EndObject();
 }
 

@@ -7,20 +7,21 @@
 #include <type_traits>
 #include <utility>
 
+#include "bridge/MemberDocs.h"
 #include "bridge/Members.h"
 #include "bridge/Values.h"
 
 namespace ostrel::bridge {
 
 /// One row: the member's name, and the names of its arguments, separated by blanks. Kinds, directions and the
-/// result come from the signature. Behind the name of an array stand the arguments that count it:
-/// "List[NumberList]", "Cells[Rows,Columns]"; with ".." in front, "Values[..MaxValues]", the array grows to
-/// the count.
+/// result come from the signature, the doc comment from the declaration. Behind the name of an array stand
+/// the arguments that count it: "List[NumberList]", "Cells[Rows,Columns]"; with ".." in front,
+/// "Values[..MaxValues]", the array grows to the count.
 #define MEMBER(name, names)                                                                                  \
     [] {                                                                                                     \
         constexpr auto arguments = SplitNames<ArityOf<&OstrelWebHelp::name>>(names);                         \
         static_assert(arguments.fits, "names and parameters of " #name " differ");                           \
-        return MakeMember<&OstrelWebHelp::name>(#name, arguments);                                           \
+        return MakeMember<&OstrelWebHelp::name>(#name, docs::name, arguments);                               \
     }()
 
 /// The most elements that a growing array grows to.
@@ -175,9 +176,9 @@ template <auto Function>
 inline constexpr std::size_t ArityOf = Caller<Function>::arity;
 
 template <auto Function, std::size_t Arity>
-Member MakeMember(std::string_view name, const ArgumentNames<Arity>& names) {
+Member MakeMember(std::string_view name, std::string_view doc, const ArgumentNames<Arity>& names) {
     Member member{
-        name, Caller<Function>::result, {names.rows.begin(), names.rows.end()}, &Caller<Function>::Call};
+        name, Caller<Function>::result, doc, {names.rows.begin(), names.rows.end()}, &Caller<Function>::Call};
     Caller<Function>::Describe(member.arguments);
     return member;
 }

@@ -42,6 +42,8 @@ struct CallAnswer {
 struct Member {
     std::string_view name;
     std::string_view result; ///< the kind
+    /// The doc comment of its declaration in the chief header.
+    std::string_view doc;
     std::vector<Argument> arguments;
     /// Calls it. The arguments are an array; a Refusal for one that does not fit, with nothing done.
     void (*call)(const Member&, OstrelWebHelp&, const Json& arguments, CallAnswer&);

@@ -2,7 +2,7 @@
 
 #include <csignal>
 
-#include "cli/InputError.h"
+#include "tables/InputError.h"
 
 namespace ostrel::cli {
 
@@ -30,7 +30,7 @@ InterruptGuard::~InterruptGuard() { std::signal(SIGINT, SIG_DFL); }
 bool Interrupted() { return pressed != 0; }
 
 void ThrowIfInterrupted() {
-    if (Interrupted()) throw Interruption{};
+    if (Interrupted()) throw tables::Interruption{};
 }
 
 } // namespace ostrel::cli

@@ -13,7 +13,7 @@ public:
 };
 
 bool Interrupted();
-/// Throws `Interruption` where Ctrl-C was pressed.
+/// Throws `tables::Interruption` where Ctrl-C was pressed.
 void ThrowIfInterrupted();
 
 } // namespace ostrel::cli

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "cli/CellText.h"
 #include "cli/Usage.h"
 #include "control/PropertyTable.h"
+#include "tables/CellText.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
 
@@ -46,8 +46,8 @@ PropertyValue ValueOf(std::string_view assignment, const PropertyRow& row, std::
         if (!number) Refuse(assignment, "the value is not a whole number.");
         return *number;
     }
-    if (std::holds_alternative<Picture>(row.fallback)) return Picture{PlainArgument(text)};
-    return PlainArgument(text);
+    if (std::holds_alternative<Picture>(row.fallback)) return Picture{tables::PlainArgument(text)};
+    return tables::PlainArgument(text);
 }
 
 } // namespace

@@ -28,7 +28,8 @@ std::string Cell(std::string_view text) {
 void WriteMembers(std::ostream& page) {
     page << "## Members\n\nAn argument in italics is written by the member.\n";
     for (const bridge::Family& family : bridge::Families()) {
-        page << "\n### " << family.title << "\n\n| Member | Arguments | Result |\n|---|---|---|\n";
+        page << "\n### " << family.title
+             << "\n\n| Member | Arguments | Result | Meaning |\n|---|---|---|---|\n";
         for (const bridge::Member& member : family.members) {
             page << "| `" << member.name << "` | ";
             const char* separator = "";
@@ -37,7 +38,8 @@ void WriteMembers(std::ostream& page) {
                 page << separator << mark << argument.name << mark << " " << argument.kind;
                 separator = ", ";
             }
-            page << " | " << (member.result == "none" ? "" : member.result) << " |\n";
+            page << " | " << (member.result == "none" ? "" : member.result) << " | " << Cell(member.doc)
+                 << " |\n";
         }
     }
 }
@@ -80,8 +82,8 @@ void WriteEvents(std::ostream& page) {
 void WriteReference(std::ostream& page) {
     page << "# Reference\n\nMade by `ostrel reference` from the tables that the component runs on. The kinds "
             "are text, flag, integer (16 bits), long (32 bits), single, double, date, picture and variant "
-            "(a text or a number); `[]` is an array from 1, `[][]` a table of rows and columns from 1. What "
-            "members do stands in `src/control/OstrelWebHelp.h`.\n\n";
+            "(a text or a number); `[]` is an array from 1, `[][]` a table of rows and columns from "
+            "1.\n\n";
     WriteMembers(page);
     WriteProperties(page);
     WriteEvents(page);

@@ -1,21 +1,23 @@
 #include "cli/ReportColumns.h"
 
 #include <algorithm>
-#include <map>
+#include <set>
 
-#include "cli/InputError.h"
 #include "cli/Usage.h"
+#include "tables/CellText.h"
+#include "tables/InputError.h"
+#include "tables/ReportPages.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
 
 namespace ostrel::cli {
 
 void ColumnFinder::Fail(std::string_view option, const std::string& sentence) const {
-    throw InputError(table_.place + ": " + std::string(option) + ": " + sentence);
+    throw tables::InputError(table_.place + ": " + std::string(option) + ": " + sentence);
 }
 
 Long ColumnFinder::Lookup(std::string_view word, bool& ambiguous) const {
-    const Text name = PlainArgument(word);
+    const Text name = tables::PlainArgument(word);
     Long hit = 0;
     for (const bool exact : {true, false}) {
         for (std::size_t i = 0; i < table_.names.size(); ++i) {
@@ -42,9 +44,9 @@ Long ColumnFinder::Find(std::string_view option, std::string_view word) const {
         if (table_.names.size() > 30) known += ", ...";
         Fail(option, "there is no column [" + std::string(word) + "]; there is " + known + ".");
     }
-    if (column > Reach)
+    if (column > tables::ColumnReach)
         Fail(option, "[" + std::string(word) + "] is column " + std::to_string(column) +
-                         ", and options reach the first " + std::to_string(Reach) + " only.");
+                         ", and options reach the first " + std::to_string(tables::ColumnReach) + " only.");
     return column;
 }
 
@@ -63,30 +65,31 @@ std::pair<Long, std::string> ColumnFinder::Split(std::string_view option, std::s
 namespace {
 
 /// Text that goes between double quotes of an attribute.
-Text AttributeText(const std::string& word) { return HtmlArgument(word); }
+Text AttributeText(const std::string& word) { return tables::HtmlArgument(word); }
 
-void ApplySorts(const ReportOptions& options, const ColumnFinder& find, const InputTable& table,
+void ApplySorts(const ReportOptions& options, const ColumnFinder& find, const tables::InputTable& table,
                 OstrelWebHelp& web) {
     for (const std::string& word : options.sort) {
         const Long column = find.Find("--sort", word);
         if (!options.noSort) web.PageTableColumnSort(column, true);
     }
     if (!options.noSort && options.sort.empty())
-        for (Long column = 1; column <= std::min<Long>(table.Columns(), 100); ++column)
+        for (Long column = 1; column <= std::min(table.Columns(), tables::ColumnReach); ++column)
             web.PageTableColumnSort(column, true);
     web.PageTableRecordNumberSort(!options.noSort && !options.noRecordNumbers);
 }
 
-void ApplyTypes(const ReportOptions& options, const ColumnFinder& find, InputTable& table,
+void ApplyTypes(const ReportOptions& options, const ColumnFinder& find, tables::InputTable& table,
                 OstrelWebHelp& web) {
     for (const std::string& word : options.type) {
         const auto [column, name] = find.Split("--type", word);
-        const auto type = ColumnTypeOfName(name);
+        const auto type = tables::ColumnTypeOfName(name);
         if (!type) throw UsageError("--type " + word + ": the type must be text, number, date or time.");
         table.types[static_cast<std::size_t>(column - 1)] = *type;
     }
-    for (Long column = 1; column <= std::min<Long>(table.Columns(), 100); ++column)
-        web.PageTableColumnOrder(column, SortOrderOf(table.types[static_cast<std::size_t>(column - 1)]));
+    for (Long column = 1; column <= std::min(table.Columns(), tables::ColumnReach); ++column)
+        web.PageTableColumnOrder(column,
+                                 tables::SortOrderOf(table.types[static_cast<std::size_t>(column - 1)]));
 }
 
 void ApplyTotals(const ReportOptions& options, const ColumnFinder& find, OstrelWebHelp& web) {
@@ -98,11 +101,11 @@ void ApplyTotals(const ReportOptions& options, const ColumnFinder& find, OstrelW
     web.PageTableTotalFormat("auto");
     for (const std::string& word : options.totalFormat) {
         if (word.find('=') == std::string::npos) {
-            web.PageTableTotalFormat(PlainArgument(word));
+            web.PageTableTotalFormat(tables::PlainArgument(word));
             continue;
         }
         const auto [column, format] = find.Split("--total-format", word);
-        web.PageTableColumnTotalFormat(column, PlainArgument(format));
+        web.PageTableColumnTotalFormat(column, tables::PlainArgument(format));
     }
     for (const std::string& word : options.breaks) web.PageTableColumnBreak(find.Find("--break", word), true);
     web.PageTableTotalBreak(!options.breaks.empty());
@@ -111,7 +114,7 @@ void ApplyTotals(const ReportOptions& options, const ColumnFinder& find, OstrelW
 
 } // namespace
 
-void ApplyColumnOptions(const ReportOptions& options, InputTable& table, OstrelWebHelp& web) {
+void ApplyColumnOptions(const ReportOptions& options, tables::InputTable& table, OstrelWebHelp& web) {
     const ColumnFinder find(table);
     for (const std::string& word : options.hide) web.PageTableColumnHide(find.Find("--hide", word), true);
     ApplySorts(options, find, table, web);
@@ -145,25 +148,35 @@ void ApplyColumnOptions(const ReportOptions& options, InputTable& table, OstrelW
     }
 }
 
-void CheckPageNames(const InputTable& table, const OstrelWebHelp& web) {
+void CheckShownColumns(const ReportOptions& options, const tables::InputTable& table,
+                       const OstrelWebHelp& web) {
+    if (tables::ShownColumns(table, web) == 0)
+        throw tables::InputError(table.place + ": every column is hidden.");
+    if (options.recordTitle.empty() || options.recordsAll) return;
+    const Long column = ColumnFinder(table).Find("--record-title", options.recordTitle);
+    if (web.PageTableColumnHide(column))
+        throw tables::InputError(table.place + ": --record-title: the column [" + options.recordTitle +
+                                 "] is hidden; --records-all shows it on the pages of the records.");
+}
+
+void CheckPageNames(const tables::InputTable& table, const OstrelWebHelp& web) {
     if (!web.PageTableOrderUseNames()) return;
-    std::map<Text, std::size_t> pages;
-    for (std::size_t i = 0; i < table.names.size() && i < 100; ++i) {
-        const Long column = static_cast<Long>(i) + 1;
+    std::set<Text> pages;
+    for (Long column = 1; column <= std::min(table.Columns(), tables::ColumnReach); ++column) {
         if (!web.PageTableColumnSort(column) || web.PageTableColumnHide(column)) continue;
-        const Text& name = table.names[i];
+        const Text& name = table.names[static_cast<std::size_t>(column - 1)];
         const auto bad = std::find_if(name.begin(), name.end(), [](char c) {
             return static_cast<unsigned char>(c) < 32 ||
                    std::string_view("/\\:*?\"<>|#%&").find(c) != std::string_view::npos;
         });
         if (bad != name.end())
-            throw InputError(table.place + ": the column name [" + ToUtf8(name) +
-                             "] can't be part of a page's name.");
+            throw tables::InputError(table.place + ": the column name [" + ToUtf8(name) +
+                                     "] can't be part of a page's name.");
         Text word = ReplaceAll(ReplaceAll(name, "_", ""), " ", "");
         if (word.empty()) word = FromLong(column);
-        if (!pages.emplace(word, i).second)
-            throw InputError(table.place + ": two columns would share the pages of the name [" +
-                             ToUtf8(word) + "].");
+        if (!pages.insert(word).second)
+            throw tables::InputError(table.place + ": two columns would share the pages of the name [" +
+                                     ToUtf8(word) + "].");
     }
 }
 

@@ -4,16 +4,16 @@
 #include <string_view>
 #include <utility>
 
-#include "cli/InputTable.h"
 #include "cli/ReportOptions.h"
 #include "control/OstrelWebHelp.h"
+#include "tables/InputTable.h"
 
 namespace ostrel::cli {
 
 /// Finds the columns that a user names. A name from the header goes before a number.
 class ColumnFinder {
 public:
-    explicit ColumnFinder(const InputTable& table) : table_(table) {}
+    explicit ColumnFinder(const tables::InputTable& table) : table_(table) {}
 
     /// The number of a column, from 1. Throws `InputError` where there is none of that name, where several
     /// have it, or where options do not reach so far.
@@ -22,19 +22,22 @@ public:
     std::pair<Long, std::string> Split(std::string_view option, std::string_view word) const;
 
 private:
-    static constexpr Long Reach = 100; ///< the options of the component end there
     Long Lookup(std::string_view word, bool& ambiguous) const;
     [[noreturn]] void Fail(std::string_view option, const std::string& sentence) const;
 
-    const InputTable& table_;
+    const tables::InputTable& table_;
 };
 
 /// Sets what the options say of single columns: types, sorts, links, totals and so on. Types that are given
 /// replace those that were found. Throws `InputError` and `UsageError`.
-void ApplyColumnOptions(const ReportOptions& options, InputTable& table, OstrelWebHelp& web);
+void ApplyColumnOptions(const ReportOptions& options, tables::InputTable& table, OstrelWebHelp& web);
+
+/// Throws `InputError` where no column is shown, and where one that is not shown would name the records.
+void CheckShownColumns(const ReportOptions& options, const tables::InputTable& table,
+                       const OstrelWebHelp& web);
 
 /// Where sorted pages are named by their columns: throws `InputError` for a name that cannot be part of a
 /// file's name, and for two columns that would share a page.
-void CheckPageNames(const InputTable& table, const OstrelWebHelp& web);
+void CheckPageNames(const tables::InputTable& table, const OstrelWebHelp& web);
 
 } // namespace ostrel::cli

@@ -5,11 +5,11 @@
 #include <memory>
 #include <new>
 
-#include "cli/InputError.h"
 #include "cli/Interrupt.h"
 #include "cli/ReportOptions.h"
 #include "cli/ReportRun.h"
 #include "cli/Usage.h"
+#include "tables/InputError.h"
 
 namespace ostrel::cli {
 
@@ -24,11 +24,11 @@ int RunReport(const ReportOptions& options) {
     const InterruptGuard guard;
     try {
         return ReportRun(options).Run();
-    } catch (const InputError& error) {
+    } catch (const tables::InputError& error) {
         return Failed(error.what(), 1);
     } catch (const UsageError& error) {
         return Failed(error.what(), 2);
-    } catch (const Interruption&) {
+    } catch (const tables::Interruption&) {
         std::fputs("Interrupted by User\n", stderr);
         return 130;
     } catch (const std::bad_alloc&) {

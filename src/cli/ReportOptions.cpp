@@ -46,6 +46,8 @@ void DeclarePages(CLI::App& command, ReportOptions& options) {
     command.add_flag("--no-record-numbers", options.noRecordNumbers, "No column of record numbers")
         ->group(group);
     command.add_flag("--no-csv", options.noCsv, "No CSV file beside the page")->group(group);
+    command.add_flag("--csv-all", options.csvAll, "The CSV file holds the hidden columns as well")
+        ->group(group);
     command
         .add_flag("--records", options.records,
                   "A page for each record; --records=name, =value or =name,value adds variants sorted by the "
@@ -53,6 +55,14 @@ void DeclarePages(CLI::App& command, ReportOptions& options) {
         ->group(group);
     command.add_option("--record-title", options.recordTitle, "Column that names the record on its page")
         ->type_name("COLUMN")
+        ->group(group);
+    command
+        .add_flag("--records-all", options.recordsAll,
+                  "The pages of the records show the hidden columns as well")
+        ->group(group);
+    command
+        .add_flag("--overwrite", options.overwrite,
+                  "Replace files in the directory that no report made; without it they end the run")
         ->group(group);
     command.add_flag("--quiet,-q", options.quiet, "No progress and no summary")->group(group);
 }
@@ -71,7 +81,7 @@ void DeclareColumns(CLI::App& command, ReportOptions& options) {
     const std::string group =
         "Columns (COLUMN is a name from the header, or a number from 1; repeat an option "
         "for several)";
-    Repeated(command, "--hide", options.hide, "Do not show the column", "COLUMN", group);
+    Repeated(command, "--hide", options.hide, "Leave the column out of everything", "COLUMN", group);
     auto* sort =
         Repeated(command, "--sort", options.sort,
                  "Make sorted pages for this column; all columns have them where not given", "COLUMN", group);
@@ -167,8 +177,8 @@ const char* const Examples = R"(Examples:
   ostrel report staff.csv -o out --records=name,value --record-title Name --sort Name --sort Hired
   grep Oslo trips.csv | ostrel report - -o out --no-header --type 3=date
 
-Exit status: 0 all is well; 1 the input is no good or a page could not be written; 2 the command line is not
-understood; 130 interrupted by Ctrl-C.)";
+Exit status: 0 all is well; 1 the input is no good, files that no report made are in the way, or a page could not
+be written; 2 the command line is not understood; 130 interrupted by Ctrl-C.)";
 
 } // namespace
 

@@ -25,7 +25,8 @@ struct ReportOptions {
     bool noSort = false, noRecords = false, noRecordNumbers = false, noCsv = false;
     std::string records; ///< "true", or a list of "name" and "value"; empty for no record pages
     std::string recordTitle;
-    bool quiet = false;
+    bool csvAll = false, recordsAll = false; ///< with the columns that are not shown
+    bool overwrite = false, quiet = false;
 
     // Columns
     std::vector<std::string> hide, sort, type, link, linkTip, width, columnColour, expose;

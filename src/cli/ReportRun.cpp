@@ -3,28 +3,32 @@
 #include <cstdio>
 #include <string_view>
 
-#include "cli/InputError.h"
 #include "cli/Interrupt.h"
-#include "cli/PageName.h"
+#include "cli/LookOptions.h"
 #include "cli/PropertyText.h"
 #include "cli/ReportColumns.h"
-#include "cli/ReportLook.h"
 #include "cli/StopClock.h"
 #include "cli/Usage.h"
 #include "platform/headless/HeadlessPlatform.h"
 #include "platform/native/NativePlatform.h"
+#include "tables/CountText.h"
+#include "tables/CsvSource.h"
+#include "tables/PageName.h"
+#include "tables/ReportPages.h"
+#include "tables/SqliteSource.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
 
 namespace ostrel::cli {
 
+using tables::CsvFormat;
+using tables::HtmlArgument;
+using tables::InputError;
+using tables::ReportFiles;
+
 namespace {
 
 constexpr const char* PageExtension = ".htm";
-
-std::string Plural(std::size_t count, const char* thing) {
-    return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
-}
 
 std::string BytesText(std::uint64_t bytes) {
     const char* const units[] = {"bytes", "KB", "MB", "GB"};
@@ -42,9 +46,9 @@ std::string BytesText(std::uint64_t bytes) {
 CsvFormat FormatOf(const ReportOptions& options) {
     CsvFormat format;
     if (EqualText(options.encoding, "utf-8") || EqualText(options.encoding, "utf8"))
-        format.encoding = TextEncoding::Utf8;
+        format.encoding = tables::TextEncoding::Utf8;
     else if (!EqualText(options.encoding, "auto"))
-        format.encoding = TextEncoding::Windows1252;
+        format.encoding = tables::TextEncoding::Windows1252;
     const std::pair<std::string_view, char> words[] = {{"comma", ','}, {"semicolon", ';'}, {"tab", '\t'},
                                                        {"\\t", '\t'},  {"pipe", '|'},      {"blank", ' '}};
     for (const auto& [word, character] : words)
@@ -81,7 +85,8 @@ void ApplyRecords(const ReportOptions& options, OstrelWebHelp& web) {
 } // namespace
 
 ReportRun::ReportRun(const ReportOptions& options)
-    : options_(options), progress_(!options.quiet), table_(options.html ? Markup::Html : Markup::Escape) {}
+    : options_(options), progress_(!options.quiet),
+      table_(options.html ? tables::Markup::Html : tables::Markup::Escape) {}
 
 int ReportRun::Run() {
     if (options_.directory.empty()) throw UsageError("-o: the directory has no name.");
@@ -90,7 +95,8 @@ int ReportRun::Run() {
     Read();
     SetUp();
     ThrowIfInterrupted();
-    const std::string refusal = files_->Enter(options_.directory);
+    CheckFilesThere();
+    const std::string refusal = files_->Enter();
     if (!refusal.empty()) throw InputError(refusal);
     return MakePages();
 }
@@ -98,41 +104,48 @@ int ReportRun::Run() {
 void ReportRun::Read() {
     progress_.Show("Reading " + options_.input);
     const bool wantsDatabase = !options_.query.empty() || !options_.table.empty();
-    if (IsSqliteFile(options_.input))
-        return ReadSqliteTable(options_.input, options_.query, options_.table, table_);
-    FileSource source(options_.input);
-    if (wantsDatabase) throw InputError(source.Name() + " is not a SQLite database, so it takes no query.");
-    ReadCsvTable(source, FormatOf(options_), !options_.noHeader, table_);
+    if (tables::IsSqliteFile(options_.input)) {
+        tables::SqliteSource rows(options_.input, options_.query, options_.table, Interrupted);
+        return tables::ReadTable(rows, table_);
+    }
+    tables::FileSource file(options_.input, Interrupted);
+    if (wantsDatabase) throw InputError(file.Name() + " is not a SQLite database, so it takes no query.");
+    tables::CsvSource rows(file, FormatOf(options_), !options_.noHeader);
+    tables::ReadTable(rows, table_);
 }
 
 Text ReportRun::PageName() const {
-    if (options_.name.empty()) return PageNameOf(options_.input == "-" ? "report" : StemOf(options_.input));
-    const Text name = PlainArgument(options_.name);
+    if (options_.name.empty())
+        return tables::PageNameOf(options_.input == "-" ? "report" : tables::StemOf(options_.input));
+    const Text name = tables::PlainArgument(options_.name);
     for (char c : name)
-        if (!IsNameCharacter(c))
+        if (!tables::IsNameCharacter(c))
             throw UsageError("--name " + options_.name + ": it may hold letters, digits, - and _.");
     return name;
 }
 
 Text ReportRun::TitleText() const {
     if (!options_.title.empty()) return HtmlArgument(options_.title);
-    return HtmlArgument(options_.input == "-" ? "Report" : StemOf(options_.input));
+    return HtmlArgument(options_.input == "-" ? "Report" : tables::StemOf(options_.input));
 }
 
 void ReportRun::SetUp() {
     page_ = PageName() + PageExtension;
-    auto files = std::make_unique<ReportFiles>(MakeNativeFiles(), options_.input);
+    auto files = std::make_unique<ReportFiles>(MakeNativeFiles(), options_.input, options_.directory, page_);
     files_ = files.get();
     platform_ = MakeHeadlessPlatform(false);
     platform_.pane.reset(); // a report shows nothing
     platform_.files = std::move(files);
-    platform_.clock = std::make_unique<StopClock>(std::move(platform_.clock), [this] { PassOnStop(); });
+    platform_.clock =
+        std::make_unique<StopClock>(std::move(platform_.clock), [this] { web_->HostStop(true); });
     web_ = std::make_unique<OstrelWebHelp>(platform_);
     OstrelWebHelp& web = *web_;
     web.InitProperties();
     web.PageReset();
 
-    ApplyLook(options_, web);
+    const tables::Look look = LookOf(options_);
+    tables::ApplyLook(look, web);
+    AddHeaderLinks(options_, web);
     ApplyColumnOptions(options_, table_, web);
     ApplyRecords(options_, web);
     web.PageTableRecordNumber(!options_.noRecordNumbers);
@@ -140,81 +153,96 @@ void ReportRun::SetUp() {
     web.PageTableOrderUpTT("Sort up");
     web.PageTableOrderDownTT("Sort down");
 
-    const Text csv = web.FileExtensionChange(page_, ".csv");
-    const bool inPlace = files_->IsInput(options_.directory, csv);
-    web.PageTableAddExcel(!options_.noCsv && !inPlace);
-    if (options_.subTitle) {
-        web.PageSubTitle(HtmlArgument(*options_.subTitle));
-    } else {
-        Text subTitle = HtmlArgument(Plural(static_cast<std::size_t>(table_.rows), "row") + ", " +
-                                     Plural(table_.names.size(), "column"));
-        if (!options_.noCsv) subTitle += " &middot; " + web.CreateLink(csv, csv, false, false, false);
-        web.PageSubTitle(subTitle);
-    }
+    csvIsInput_ = files_->IsInput(web.FileExtensionChange(page_, ".csv"));
+    web.PageTableAddExcel(!options_.noCsv && !csvIsInput_);
+    web.PageTableExcelShownOnly(!options_.csvAll);
+    web.PageTableSeparateShownOnly(!options_.recordsAll);
+    const Text subTitle = SubTitle();
+    web.PageSubTitle(subTitle);
     for (const std::string& assignment : options_.set) SetProperty(web, assignment);
+    // A column may just have been hidden.
+    if (web.PageSubTitle() == subTitle) web.PageSubTitle(SubTitle());
+    CheckShownColumns(options_, table_, web);
     CheckPageNames(table_, web);
+    heads_ = tables::ApplyTableLook(look, table_, web);
     Listen();
 }
 
-void ReportRun::PassOnStop() {
-    if (Interrupted()) web_->StopPressed(true);
+Text ReportRun::SubTitle() const {
+    if (options_.subTitle) return HtmlArgument(*options_.subTitle);
+    // The input itself holds what is hidden as well.
+    const bool tellsHidden =
+        csvIsInput_ && tables::ShownColumns(table_, *web_) < table_.Columns() && !options_.csvAll;
+    const bool linksCsv = !options_.noCsv && !tellsHidden;
+    return tables::DefaultSubTitle(table_, linksCsv ? web_->FileExtensionChange(page_, ".csv") : Text(),
+                                   *web_);
+}
+
+void ReportRun::CheckFilesThere() {
+    const std::vector<std::string> there =
+        files_->Plan(tables::ReportFileNames(table_, Text(ReportFiles::Drive) + page_, *web_));
+    if (there.empty()) return;
+    if (options_.overwrite) return files_->AllowAll();
+    const std::string first = files_->Shown(ReportFiles::Drive) + there.front();
+    if (there.size() == 1)
+        throw InputError(first + " is there already and no report made it; --overwrite replaces it.");
+    throw InputError(first + " and " + tables::Grouped(there.size() - 1) + " more " +
+                     (there.size() == 2 ? "file" : "files") +
+                     " are there already and no report made them; --overwrite replaces them.");
 }
 
 void ReportRun::Listen() {
     Events& events = web_->events;
-    // The sorts and the run itself clear the flag as they begin, so every event passes it on again.
     events.PageCreateProgress.Listen([this](Text& message, Long& records) {
-        PassOnStop();
         progress_.Show(ToUtf8(message) + (records > 0 ? " " + std::to_string(records) : ""));
     });
-    events.SortProgress.Listen([this](Text&, Long&) { PassOnStop(); });
-    events.PageCreateTableTitle.Listen([this](Text&, Text&, Text&, Text&, Flag&, Long&) { PassOnStop(); });
-    events.PageCreated2.Listen([this](Text& path, Flag& isNew, Flag& failed, Long& bytes) {
-        PassOnStop();
-        PageDone(path, isNew, failed, bytes);
-    });
+    events.PageCreated2.Listen(
+        [this](Text& path, Flag& isNew, Flag& failed, Long& bytes) { PageDone(path, isNew, failed, bytes); });
 }
 
 void ReportRun::PageDone(const Text& path, bool isNew, bool failed, Long bytes) {
-    if (failed)
-        failures_[path] = files_->LastReason();
-    else if (isNew)
-        ++written_, bytes_ += static_cast<std::uint64_t>(bytes);
+    if (!failed)
+        isNew ? (++written_, bytes_ += static_cast<std::uint64_t>(bytes)) : ++unchanged_;
+    else if (files_->End().empty())
+        failures_.Add(files_->Shown(path), ToUtf8(files_->LastReason()));
     else
-        ++unchanged_;
+        web_->HostStop(true);
 }
 
 int ReportRun::MakePages() {
-    Array<Text> names{std::vector<Text>(table_.nameHtml)};
-    const Array<Text> plainNames{std::vector<Text>(table_.names)};
-    Array<Flag> right;
-    for (ColumnType type : table_.types) right.Append(type != ColumnType::Text);
-    const CellTable cells(table_.cells.Cells(), table_.rows, table_.Columns(), &plainNames);
     Text message;
-    const bool made = web_->PageCreateTableFrom(Text(ReportFiles::Drive) + page_, TitleText(), names, right,
-                                                cells, message);
+    const bool made = tables::MakeReport(table_, table_.types, Text(ReportFiles::Drive) + page_, TitleText(),
+                                         *web_, message);
     progress_.Clear();
     // No event tells of the CSV file, and the message does not name it.
-    const bool csvFailed = !made && failures_.empty() && !files_->LastFailed().empty();
-    if (csvFailed) failures_[files_->LastFailed()] = files_->LastReason();
-    return Tell(made || csvFailed, message);
+    const bool csvFailed = !made && failures_.Empty() && !files_->LastFailed().empty();
+    if (csvFailed && files_->End().empty())
+        failures_.Add(files_->Shown(files_->LastFailed()), ToUtf8(files_->LastReason()));
+    std::string trouble = files_->End();
+    const bool complete = made && failures_.Empty() && trouble.empty() && !Interrupted();
+    const std::string leaving = files_->Leave(complete);
+    if (trouble.empty() && complete) trouble = leaving;
+    if (trouble.empty() && !made && !csvFailed) trouble = files_->Shown(message);
+    return Tell(complete, trouble);
 }
 
-int ReportRun::Tell(bool made, const Text& message) const {
-    for (const auto& [path, reason] : failures_)
-        std::fprintf(stderr, "ostrel: %s can't be written: %s.\n", files_->Shown(path).c_str(),
-                     ToUtf8(reason).c_str());
+int ReportRun::Tell(bool complete, const std::string& trouble) const {
+    for (const std::string& sentence : failures_.Sentences())
+        std::fprintf(stderr, "ostrel: %s\n", sentence.c_str());
     if (Interrupted()) {
         std::fputs("Interrupted by User\n", stderr);
         return 130;
     }
-    if (!made) std::fprintf(stderr, "ostrel: %s\n", files_->Shown(message).c_str());
-    if (!made || !failures_.empty()) return 1;
+    if (!trouble.empty()) std::fprintf(stderr, "ostrel: %s\n", trouble.c_str());
+    if (!complete || !trouble.empty()) return 1;
     if (options_.quiet) return 0;
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
-    std::printf("%s: %s written (%s), %zu unchanged, %.2f seconds\n",
-                files_->Shown(Text(ReportFiles::Drive) + page_).c_str(), Plural(written_, "page").c_str(),
-                BytesText(bytes_).c_str(), unchanged_, seconds);
+    const std::string deleted =
+        files_->Deleted() > 0 ? tables::Counted(files_->Deleted(), "old file") + " taken away, " : "";
+    std::printf("%s: %s written (%s), %zu unchanged, %s%.2f seconds\n",
+                files_->Shown(Text(ReportFiles::Drive) + page_).c_str(),
+                tables::Counted(written_, "page").c_str(), BytesText(bytes_).c_str(), unchanged_,
+                deleted.c_str(), seconds);
     return 0;
 }
 

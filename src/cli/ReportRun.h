@@ -1,14 +1,15 @@
 #pragma once
 
 #include <chrono>
-#include <map>
 #include <memory>
 
-#include "cli/InputTable.h"
 #include "cli/ProgressLine.h"
-#include "cli/ReportFiles.h"
 #include "cli/ReportOptions.h"
 #include "control/OstrelWebHelp.h"
+#include "tables/InputTable.h"
+#include "tables/PageFailures.h"
+#include "tables/PageHeads.h"
+#include "tables/ReportFiles.h"
 
 namespace ostrel::cli {
 
@@ -17,32 +18,37 @@ class ReportRun {
 public:
     explicit ReportRun(const ReportOptions& options);
 
-    /// The exit status. Throws `InputError`, `UsageError` and `Interruption` while nothing is written yet.
+    /// The exit status. Throws `tables::InputError`, `UsageError` and `tables::Interruption` while nothing is
+    /// written yet.
     int Run();
 
 private:
     void Read();
     void SetUp();
+    Text SubTitle() const;
     void Listen();
+    /// Ends the run where files that no report made would be replaced.
+    void CheckFilesThere();
     int MakePages();
-    int Tell(bool made, const Text& message) const;
+    int Tell(bool complete, const std::string& trouble) const;
     void PageDone(const Text& path, bool isNew, bool failed, Long bytes);
-    void PassOnStop();
     Text PageName() const;
     Text TitleText() const;
 
     const ReportOptions& options_;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     ProgressLine progress_;
-    InputTable table_;
+    tables::InputTable table_;
     Platform platform_;
-    ReportFiles* files_ = nullptr; ///< of the platform
+    tables::ReportFiles* files_ = nullptr; ///< of the platform
     std::unique_ptr<OstrelWebHelp> web_;
-    Text page_; ///< name of the main page
+    Text page_;               ///< name of the main page
+    bool csvIsInput_ = false; ///< the CSV file's name is that of the input
+    std::unique_ptr<tables::PageHeads> heads_;
 
     std::size_t written_ = 0, unchanged_ = 0;
     std::uint64_t bytes_ = 0;
-    std::map<Text, Text> failures_; ///< the page and why
+    tables::PageFailures failures_;
 };
 
 } // namespace ostrel::cli

@@ -2,13 +2,14 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "cli/Interrupt.h"
 #include "platform/Clock.h"
 
 namespace ostrel::cli {
 
-/// A clock at whose every yield a Ctrl-C arrives.
+/// A clock that calls `stop` at the first yield after a Ctrl-C.
 class StopClock final : public Clock {
 public:
     StopClock(std::unique_ptr<Clock> inner, std::function<void()> stop)
@@ -20,12 +21,17 @@ public:
         return inner_->MakeTimer(std::move(handler));
     }
     void Post(std::function<void()> work) override { inner_->Post(std::move(work)); }
-    bool Pending() const override { return Interrupted() || inner_->Pending(); }
+    bool Pending() const override { return (stop_ && Interrupted()) || inner_->Pending(); }
     void Yield() override {
         inner_->Yield();
-        if (Interrupted()) stop_();
+        if (stop_ && Interrupted()) std::exchange(stop_, nullptr)();
     }
     void Wait(Long milliseconds) override { inner_->Wait(milliseconds); }
+    bool Sleep(Long longest, std::span<WakeSource> sources) override {
+        const bool ready = inner_->Sleep(Interrupted() ? 0 : longest, sources);
+        if (Interrupted()) stop_();
+        return ready;
+    }
 
 private:
     std::unique_ptr<Clock> inner_;

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "control/Guard.h"
 #include "services/CountryCode.h"
 #include "services/Settings.h"
@@ -96,7 +94,10 @@ void OstrelWebHelp::MessageInfo(const Text& ErrorMessage) {
 
 Long OstrelWebHelp::MessageQuery(const Text& ErrorMessage, Long Buttons) {
     return Guarded([&] {
-        return Show(context_, state_.service.ProgramName, MessageKind::Query, ErrorMessage, Buttons);
+        // The higher bits of a host's flags choose an icon and a default, which a question has already.
+        constexpr Long buttonBits = 7;
+        return Show(context_, state_.service.ProgramName, MessageKind::Query, ErrorMessage,
+                    Buttons & buttonBits);
     });
 }
 
@@ -114,10 +115,7 @@ void OstrelWebHelp::WaitMilliSeconds(Long MilliSeconds) {
 
 void OstrelWebHelp::WaitSeconds(Long Seconds) {
     Guarded([&] {
-        // As long a wait at a time as milliseconds can tell.
-        constexpr Long most = 2'000'000;
-        for (; Seconds > 0; Seconds -= std::min(Seconds, most))
-            Wait(context_, std::min(Seconds, most) * 1000);
+        for (; Seconds > 0; --Seconds) Wait(context_, 1000);
     });
 }
 

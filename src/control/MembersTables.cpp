@@ -1,6 +1,7 @@
 #include "control/Guard.h"
 #include "control/PageScopeOf.h"
 #include "tablepages/PageCreateTable.h"
+#include "tablepages/PageNames.h"
 
 namespace ostrel {
 
@@ -40,6 +41,15 @@ Flag OstrelWebHelp::PageCreateTableFrom(const Text& FilePath, const Text& Title,
             ScopeOf(state_, context_),
             {FilePath, Title, Cells.Rows(), Cells.Columns(), ColumnNames, ColumnRight, Cells, {}},
             ErrorMessage);
+    });
+}
+
+Array<Text> OstrelWebHelp::PageCreateTableFiles(const Text& FilePath, const Array<Text>& ColumnNames,
+                                                const CellTable& Cells) {
+    return Guarded([&] {
+        return tablepages::FileNames(
+            ScopeOf(state_, context_),
+            {FilePath, {}, Cells.Rows(), Cells.Columns(), ColumnNames, {}, Cells, {}});
     });
 }
 

@@ -1,4 +1,5 @@
 #include "control/Guard.h"
+#include "services/PreparedSearch.h"
 #include "services/TagExtraction.h"
 #include "services/TagText.h"
 

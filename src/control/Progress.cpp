@@ -43,6 +43,8 @@ void OstrelWebHelp::StopShow(const Text& Heading) {
     });
 }
 
+void OstrelWebHelp::HostStop(Flag Value) { run_.HostStop = Value; }
+
 void OstrelWebHelp::StopHide() {
     Guarded([&] {
         frame_->children.fraStop.visible = false;

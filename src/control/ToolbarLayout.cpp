@@ -177,7 +177,8 @@ private:
             label.width = size.width;
             label.height = size.height;
         }
-        label.top = Fit(Twips{anchor.top} + HalfOf(Twips{anchor.height} - label.height));
+        // Only the sum becomes a whole number, so an odd difference rounds by the anchor's place.
+        label.top = HalfOf(2 * Twips{anchor.top} + anchor.height - label.height);
         if (alignRight) label.left = Fit(Twips{anchor.left} - label.width - LabelGap);
     }
 

@@ -13,8 +13,8 @@ namespace ostrel::desk {
 QWidget* KindDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const {
     auto* box = new QComboBox(parent);
     box->setFrame(false);
-    for (const auto kind :
-         {cli::ColumnType::Text, cli::ColumnType::Number, cli::ColumnType::Date, cli::ColumnType::Time})
+    for (const auto kind : {tables::ColumnType::Text, tables::ColumnType::Number, tables::ColumnType::Date,
+                            tables::ColumnType::Time})
         box->addItem(KindName(kind), static_cast<int>(kind));
     connect(box, &QComboBox::activated, this, [this, box] {
         auto* self = const_cast<KindDelegate*>(this);

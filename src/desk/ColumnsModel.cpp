@@ -5,15 +5,15 @@
 
 namespace ostrel::desk {
 
-QString KindName(cli::ColumnType kind) {
+QString KindName(tables::ColumnType kind) {
     switch (kind) {
-    case cli::ColumnType::Number:
+    case tables::ColumnType::Number:
         return "Number";
-    case cli::ColumnType::Date:
+    case tables::ColumnType::Date:
         return "Date";
-    case cli::ColumnType::Time:
+    case tables::ColumnType::Time:
         return "Time";
-    case cli::ColumnType::Text:
+    case tables::ColumnType::Text:
         break;
     }
     return "Text";
@@ -101,7 +101,7 @@ bool ColumnsModel::setData(const QModelIndex& index, const QVariant& value, int 
     if (!index.isValid() || !(flags(index) & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable))) return false;
     const int row = index.row(), section = index.column();
     if (role == Qt::EditRole && section == KindSection) {
-        choices_[static_cast<std::size_t>(row - 1)].kind = static_cast<cli::ColumnType>(value.toInt());
+        choices_[static_cast<std::size_t>(row - 1)].kind = static_cast<tables::ColumnType>(value.toInt());
     } else if (role == Qt::CheckStateRole && section >= ShowSection) {
         const bool marked = value.toInt() == Qt::Checked;
         for (std::size_t i = 0; i < choices_.size(); ++i)

@@ -42,6 +42,6 @@ private:
 };
 
 /// The name of a kind of column.
-QString KindName(cli::ColumnType kind);
+QString KindName(tables::ColumnType kind);
 
 } // namespace ostrel::desk

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
-#include "cli/CellText.h"
-#include "cli/ReportLook.h"
-#include "cli/ReportOptions.h"
 #include "platform/native/NativePaths.h"
+#include "tables/CellText.h"
+#include "tables/ReportLook.h"
 #include "text/NumberText.h"
 
 namespace ostrel::desk {
@@ -50,19 +49,19 @@ Text DeskPages::Welcome(OstrelWebHelp& web) {
 }
 
 Text DeskPages::Preview(OstrelWebHelp& web, const TableFile& file) {
-    const cli::InputTable& table = *file.table;
+    const tables::InputTable& table = *file.table;
     const Long rows = std::min(table.rows, PreviewRows);
     const Text path = Path("preview.htm");
     web.PageReset();
-    cli::ApplyLook(cli::ReportOptions{}, web);
+    tables::ApplyLook(tables::Look{}, web);
     web.PageSubTitle(rows < table.rows ? "The first " + FromLong(rows) + " rows of the file as it was read"
                                        : Text("The file as it was read"));
     const Array<Text> names{std::vector<Text>(table.nameHtml)};
     Array<Flag> right;
-    for (const cli::ColumnType kind : table.types) right.Append(kind != cli::ColumnType::Text);
+    for (const tables::ColumnType kind : table.types) right.Append(kind != tables::ColumnType::Text);
     const CellTable cells(table.cells.Cells(), rows, table.Columns());
     Text error;
-    const bool made = web.PageCreateTableFrom(path, cli::HtmlArgument(file.Stem().toStdString()), names,
+    const bool made = web.PageCreateTableFrom(path, tables::HtmlArgument(file.Stem().toStdString()), names,
                                               right, cells, error);
     web.PageInitialise();
     return made ? path : Text();

@@ -16,6 +16,7 @@ constexpr const char* Window = "Window";
 constexpr const char* Options = "Options";
 constexpr const char* Directories = "Directories";
 constexpr const char* RecentFiles = "Recent";
+constexpr const char* PlanDirectory = "Directory";
 /// A table with thousands of columns is not worth a settings file that every program here reads.
 constexpr std::size_t LargestPlan = 64 << 10;
 constexpr QSize FirstSize(1200, 800);
@@ -115,8 +116,17 @@ Text DeskState::Plan(const QString& path, const QString& table) {
     return Get(PlanSection(path), PlanKey(table));
 }
 
-void DeskState::SetPlan(const QString& path, const QString& table, const Text& plan) {
+void DeskState::SetPlan(const QString& path, const QString& table, const Text& plan,
+                        const QString& directory) {
     if (plan.size() <= LargestPlan) Save(PlanSection(path), PlanKey(table), plan);
+    Save(PlanSection(path), PlanDirectory, AddressText(directory));
+}
+
+QStringList DeskState::DirectoriesOfOthers(const QString& path) {
+    QStringList directories;
+    for (const QString& other : Stored())
+        if (other != path) directories << PathOf(Get(PlanSection(other), PlanDirectory));
+    return directories;
 }
 
 } // namespace ostrel::desk

@@ -32,7 +32,9 @@ public:
 
     /// The plan kept for a recent file and one of its tables; empty for none.
     Text Plan(const QString& path, const QString& table);
-    void SetPlan(const QString& path, const QString& table, const Text& plan);
+    void SetPlan(const QString& path, const QString& table, const Text& plan, const QString& directory);
+    /// The directories of the reports last planned of the recent files, but for that one.
+    QStringList DirectoriesOfOthers(const QString& path);
 
 private:
     /// The files opened last, those that are gone included.

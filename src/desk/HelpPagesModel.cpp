@@ -3,11 +3,13 @@
 #include <QCollator>
 #include <QDir>
 #include <QFile>
+#include <QSet>
 #include <QStringDecoder>
 #include <QTextDocumentFragment>
 #include <algorithm>
 
 #include "desktop/QtText.h"
+#include "tables/ReportList.h"
 
 namespace ostrel::desk {
 
@@ -32,6 +34,47 @@ QString Decoded(const QByteArray& bytes) {
     return utf8.hasError() ? desktop::ToQt(bytes.toStdString()) : text;
 }
 
+qsizetype IndexRow(const QStringList& names) {
+    for (const char* usual : {"index.htm", "index.html", "default.htm", "default.html"})
+        for (qsizetype row = 0; row < names.size(); ++row)
+            if (names[row].compare(QLatin1String(usual), Qt::CaseInsensitive) == 0) return row;
+    return -1;
+}
+
+/// The page that this one shows in another order, as its name tells where it is one of a report: of `a_D.htm`
+/// and `a_12_U.htm` it is `a.htm`. Empty for none.
+QString MainPageOf(const QString& name, const QSet<QString>& all) {
+    const bool down = name.endsWith("_D.htm");
+    if (!down && !name.endsWith("_U.htm")) return {};
+    const QString stem = name.chopped(6);
+    // The page from the last record up has no number of a column.
+    if (const QString main = stem + ".htm"; down && all.contains(main)) return main;
+    const qsizetype bar = stem.lastIndexOf('_');
+    const QStringView column = QStringView(stem).mid(bar + 1);
+    const bool numbered = bar >= 0 && !column.isEmpty() &&
+                          std::all_of(column.begin(), column.end(), [](QChar c) { return c.isDigit(); });
+    const QString main = stem.left(bar) + ".htm";
+    return numbered && all.contains(main) ? main : QString();
+}
+
+/// A report without a list of its files is known by the names of its pages.
+qsizetype MainPageRow(const QStringList& names) {
+    const QSet<QString> all(names.begin(), names.end());
+    QSet<QString> mains;
+    for (const QString& name : names) mains.insert(MainPageOf(name, all));
+    for (qsizetype row = 0; row < names.size(); ++row)
+        if (mains.contains(names[row]) && MainPageOf(names[row], all).isEmpty()) return row;
+    return -1;
+}
+
+/// The page to begin with.
+qsizetype FirstRow(const QString& directory, const QStringList& names) {
+    qsizetype row = IndexRow(names);
+    if (row < 0) row = names.indexOf(QString::fromStdString(tables::MainPageIn(directory.toStdString())));
+    if (row < 0) row = MainPageRow(names);
+    return std::max<qsizetype>(row, 0);
+}
+
 } // namespace
 
 bool HelpPagesModel::Fill(const QString& directory) {
@@ -44,19 +87,13 @@ bool HelpPagesModel::Fill(const QString& directory) {
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::sort(names.begin(), names.end(),
               [&](const QString& left, const QString& right) { return collator.compare(left, right) < 0; });
+    names.move(FirstRow(directory, names), 0);
     beginResetModel();
     directory_ = directory;
     names_ = std::move(names);
     titles_.clear();
     endResetModel();
     return true;
-}
-
-QString HelpPagesModel::FirstPage() const {
-    for (const char* usual : {"index.htm", "index.html", "default.htm", "default.html"})
-        for (const QString& name : names_)
-            if (name.compare(QLatin1String(usual), Qt::CaseInsensitive) == 0) return name;
-    return names_.value(0);
 }
 
 int HelpPagesModel::rowCount(const QModelIndex& parent) const {

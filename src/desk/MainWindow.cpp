@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "desk/Counted.h"
+#include "desk/ReportPlaces.h"
 #include "desktop/QtText.h"
 #include "platform/native/NativePaths.h"
 
@@ -14,8 +15,8 @@ namespace ostrel::desk {
 
 namespace {
 
-/// What the browser shows within a minute; at a million cells it has been seen to run out of memory.
-constexpr qint64 MostCellsAtOnce = 800'000;
+/// What the browser has been seen to show within half a minute, in 1.5 GB of memory.
+constexpr qint64 MostCellsAtOnce = 3'000'000;
 
 } // namespace
 
@@ -60,10 +61,10 @@ void MainWindow::OpenTable(const QString& path, const QString& table) {
     if (!reading.file) return statusBar()->showMessage("Reading " + name + " was stopped.");
     file_ = std::move(reading.file);
     options_->ShowFile(file_, PlanFor(file_));
-    ShowPanel(*options_);
     state_.AddRecent(path);
-    WorkChanged();
-    ShowHome(pages_.Preview(widget_->Web(), file_));
+    tableHome_ = pages_.Preview(widget_->Web(), file_);
+    ShowPanel(*options_);
+    ShowHome(tableHome_);
 }
 
 void MainWindow::OpenPages(const QString& directory, const QString& page) {
@@ -75,10 +76,7 @@ void MainWindow::OpenPages(const QString& directory, const QString& page) {
     if (!helpPages_->ShowDirectory(directory))
         return notice_->TellTrouble("There are no pages (*.htm, *.html) in " + directory + ".");
     OstrelWebHelp& web = widget_->Web();
-    const Text first = desktop::FromQt(helpPages_->FirstPage());
     web.DirectoryHelp(*path);
-    web.HomePage(first);
-    web.IndexPage(first);
     ShowPanel(*helpPages_);
     state_.AddRecent(directory);
     if (page.isEmpty())
@@ -98,7 +96,7 @@ void MainWindow::ShowHelpPage(const QString& name) {
 }
 
 void MainWindow::MakeReport() {
-    if (work_.Running() || !file_) return;
+    if (work_.Running() || !file_ || !TableOnView()) return;
     if (file_.Stale()) {
         OpenTable(file_.path, file_.chosen);
         if (work_.StopWanted() || !notice_->Trouble().isEmpty()) return;
@@ -108,21 +106,44 @@ void MainWindow::MakeReport() {
     KeepPlan();
     const ReportPlan plan = options_->Plan();
     if (plan.directory.isEmpty()) return TellDirectoryTrouble("The report needs a directory.");
+    if (plan.ShownColumns() == 0)
+        return notice_->TellTrouble("No column is shown; the report needs at least one.");
+    ReportJob job(*widget_, work_, file_, plan);
+    if (!MayWrite(job, plan.directory)) return;
     QElapsedTimer clock;
     clock.start();
     ReportOutcome outcome;
     {
         const Work::Turn turn(work_, "Making the report…");
-        outcome = ReportJob(*widget_, work_, file_, plan).Run();
+        outcome = job.Run();
     }
     if (!outcome.directoryTrouble.isEmpty()) return TellDirectoryTrouble(outcome.directoryTrouble);
     options_->TellDirectoryTrouble({});
     TellOutcome(outcome, static_cast<double>(clock.elapsed()) / 1000);
 }
 
+bool MainWindow::MayWrite(ReportJob& job, const QString& directory) {
+    StandingFiles standing;
+    {
+        const Work::Turn turn(work_, "Looking at " + directory + "…");
+        standing = job.Look();
+    }
+    if (!standing.trouble.isEmpty()) {
+        TellDirectoryTrouble(standing.trouble);
+        return false;
+    }
+    if (!work_.StopWanted() && !standing.Any()) return true;
+    if (!work_.StopWanted() && AskToReplace(*this, standing, directory)) {
+        job.AllowAll();
+        return true;
+    }
+    notice_->TellTrouble("No report was made; nothing has changed.");
+    return false;
+}
+
 void MainWindow::TellDirectoryTrouble(const QString& sentence) {
-    // It stands at its field, which may be hidden with the panel.
-    actions_.panel->setChecked(true);
+    // It stands at its field, which may be hidden.
+    ReturnTo(*options_);
     options_->TellDirectoryTrouble(sentence);
 }
 
@@ -141,6 +162,9 @@ void MainWindow::TellOutcome(const ReportOutcome& outcome, double seconds) {
         return notice_->TellTroubles("The report is not complete: " + counts + ".", outcome.troubles);
     QString told = QString("The report is made: %1, in %2 seconds. It lies in %3.")
                        .arg(counts, QString::number(seconds, 'f', 2), QFileInfo(outcome.page).path());
+    if (outcome.deleted > 0)
+        told += " " + Counted(outcome.deleted, "file") + " of the last report " +
+                (outcome.deleted == 1 ? "was" : "were") + " taken away.";
     const bool large = outcome.cells > MostCellsAtOnce;
     if (large)
         told += " Its main page has " + Counted(outcome.cells, "cell") +
@@ -152,6 +176,7 @@ void MainWindow::TellOutcome(const ReportOutcome& outcome, double seconds) {
     // What the code page has no name for has an address all the same.
     const Text address = NativePaths::FromSystem(report_.toStdString())
                              .value_or(QUrl::fromLocalFile(report_).toEncoded().toStdString());
+    tableHome_ = address;
     large ? widget_->Web().HomePage(address) : ShowHome(address);
 }
 
@@ -163,13 +188,15 @@ ReportPlan MainWindow::PlanFor(const TableFile& file) {
         if (!QFileInfo(base).isDir()) base = QDir::homePath();
         base += "/Ostrel reports";
     }
-    plan.directory = base + "/" + QString(file.Stem()).replace('/', '_');
+    plan.directory = FreeDirectory(base, file, state_.DirectoriesOfOthers(file.path));
     ApplyPlanText(state_.Plan(file.path, file.chosen), *file.table, plan);
     return plan;
 }
 
 void MainWindow::KeepPlan() {
-    if (file_) state_.SetPlan(file_.path, file_.chosen, PlanText(options_->Plan(), *file_.table));
+    if (!file_) return;
+    const ReportPlan plan = options_->Plan();
+    state_.SetPlan(file_.path, file_.chosen, PlanText(plan, *file_.table), plan.directory);
 }
 
 void MainWindow::ShowHome(const Text& address) {

@@ -30,7 +30,8 @@ public:
     /// A CSV file or a SQLite database, a directory of help pages, or one of its pages. What is wrong with it
     /// is told in the window. Nothing happens while work is being done.
     void Open(const QString& path);
-    /// Makes the report of the open file; nothing where there is none.
+    /// Makes the report of the open file; nothing where there is none, or help pages are on view in its
+    /// place.
     void MakeReport();
     /// The directory of the next report.
     void SetOutputDirectory(const QString& directory) { options_->SetDirectory(directory); }
@@ -62,11 +63,21 @@ private:
     void ShowHelpPage(const QString& name);
     void TellOutcome(const ReportOutcome& outcome, double seconds);
     void TellDirectoryTrouble(const QString& sentence);
+    /// Asks where files stand that the report would replace; false where it is not to be made.
+    bool MayWrite(ReportJob& job, const QString& directory);
     void KeepPlan();
     ReportPlan PlanFor(const TableFile& file);
     /// Loads a page that the home button shall lead back to.
     void ShowHome(const Text& address);
+    /// Whether the panel is about the open file, and not about help pages.
+    bool TableOnView() const { return panels_->currentWidget() == options_; }
+    /// Whether anything has been opened yet.
+    bool PanelFilled() const { return file_ || !helpPages_->Directory().isEmpty(); }
+    /// From here on the panel is about a table or about help pages, and the home button leads to its first
+    /// page.
     void ShowPanel(QWidget& content);
+    /// Back to what was opened before, of which the panel was hidden by the other one.
+    void ReturnTo(QWidget& content);
     void ShowFolder();
     void ShowAbout();
     /// A table that a page links to is opened by the program that the desktop has for it; false for pages.
@@ -86,7 +97,7 @@ private:
     HelpPagesPanel* helpPages_;
     TableFile file_;
     QString report_; ///< system's path of the main page of the last report
-    bool panelFilled_ = false;
+    Text tableHome_; ///< the page that the home button leads to while a table is open
     bool closeWanted_ = false;
 };
 

@@ -77,7 +77,9 @@ void MainWindow::ConnectActions() {
     connect(actions_.stop, &QAction::triggered, &work_, &Work::Stop);
     connect(actions_.showFolder, &QAction::triggered, this, &MainWindow::ShowFolder);
     connect(actions_.panel, &QAction::toggled, this,
-            [this](bool on) { dock_->setVisible(on && panelFilled_); });
+            [this](bool on) { dock_->setVisible(on && PanelFilled()); });
+    connect(actions_.reportOptions, &QAction::triggered, this, [this] { ReturnTo(*options_); });
+    connect(actions_.helpPages, &QAction::triggered, this, [this] { ReturnTo(*helpPages_); });
     connect(actions_.toolbar, &QAction::toggled, this, [&web](bool on) { web.ToolbarVisible(on); });
     connect(actions_.address, &QAction::toggled, this, [&web](bool on) { web.ToolbarAddressVisible(on); });
     connect(actions_.about, &QAction::triggered, this, &MainWindow::ShowAbout);
@@ -99,10 +101,11 @@ void MainWindow::WorkChanged() {
     for (QAction* action :
          {actions_.open, actions_.openDirectory, actions_.recent->menuAction(), actions_.about})
         action->setEnabled(free);
-    actions_.make->setEnabled(free && file_);
-    actions_.stop->setEnabled(!free);
+    actions_.make->setEnabled(free && file_ && TableOnView());
+    actions_.reportOptions->setEnabled(free && file_ && !TableOnView());
+    actions_.helpPages->setEnabled(free && TableOnView() && !helpPages_->Directory().isEmpty());
     actions_.showFolder->setEnabled(free && OpensFolders() && !report_.isEmpty());
-    actions_.panel->setEnabled(free && panelFilled_);
+    actions_.panel->setEnabled(free && PanelFilled());
     options_->setEnabled(free);
     helpPages_->setEnabled(free);
     if (free && closeWanted_) QTimer::singleShot(0, this, &QWidget::close);
@@ -178,10 +181,17 @@ void MainWindow::AskForDirectory() {
 }
 
 void MainWindow::ShowPanel(QWidget& content) {
-    panelFilled_ = true;
     panels_->setCurrentWidget(&content);
     dock_->setVisible(actions_.panel->isChecked());
+    OstrelWebHelp& web = widget_->Web();
+    web.HomePage(TableOnView() ? tableHome_ : desktop::FromQt(helpPages_->FirstPage()));
+    if (!TableOnView()) web.IndexPage(web.HomePage());
     WorkChanged();
+}
+
+void MainWindow::ReturnTo(QWidget& content) {
+    actions_.panel->setChecked(true);
+    if (panels_->currentWidget() != &content) ShowPanel(content);
 }
 
 void MainWindow::ShowFolder() {

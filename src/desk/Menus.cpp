@@ -42,6 +42,9 @@ Actions AddMenus(QMainWindow& window) {
 
     QMenu& view = *bar.addMenu("&View");
     actions.panel = AddSwitch(view, "panel", "Side &Panel", QKeySequence("F9"));
+    actions.reportOptions = Add(view, "reportOptions", "Report &Options", QKeySequence("F7"));
+    actions.helpPages = Add(view, "helpPagesPanel", "Pages of the &Help Directory", QKeySequence("F8"));
+    view.addSeparator();
     actions.toolbar = AddSwitch(view, "toolbar", "&Toolbar");
     actions.address = AddSwitch(view, "address", "&Address Line");
 

@@ -13,7 +13,7 @@ struct Actions {
     QAction *open, *openDirectory, *quit;
     QMenu* recent;
     QAction *make, *stop, *showFolder;
-    QAction *panel, *toolbar, *address;
+    QAction *panel, *reportOptions, *helpPages, *toolbar, *address;
     QAction *back, *forward, *home, *refresh;
     QAction* about;
 };

@@ -6,11 +6,12 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
-#include "cli/ReportFiles.h"
 #include "desk/ColumnDelegates.h"
 #include "desk/Counted.h"
+#include "tables/ReportFiles.h"
 
 namespace ostrel::desk {
 
@@ -114,7 +115,12 @@ void OptionsPanel::AddPages(QBoxLayout& layout) {
     recordName_.setObjectName("recordName");
     recordNameLabel_.setText("&named by");
     recordNameLabel_.setBuddy(&recordName_);
-    connect(&records_, &QCheckBox::toggled, this, &OptionsPanel::ShowConsequences);
+    recordsAll_.setObjectName("recordsAll");
+    recordsAll_.setText("with columns that are n&ot shown");
+    csvAll_.setObjectName("csvAll");
+    csvAll_.setText("CS&V file with columns that are not shown");
+    for (const QCheckBox* box : {&records_, &recordsAll_})
+        connect(box, &QCheckBox::toggled, this, &OptionsPanel::ShowConsequences);
     auto* nameLine = new QHBoxLayout;
     nameLine->setContentsMargins(24, 0, 0, 0);
     nameLine->addWidget(&recordNameLabel_);
@@ -124,6 +130,11 @@ void OptionsPanel::AddPages(QBoxLayout& layout) {
     layout.addWidget(&subTotals_);
     layout.addWidget(&records_);
     layout.addLayout(nameLine);
+    auto* allLine = new QHBoxLayout;
+    allLine->setContentsMargins(24, 0, 0, 0);
+    allLine->addWidget(&recordsAll_);
+    layout.addLayout(allLine);
+    layout.addWidget(&csvAll_);
 }
 
 void OptionsPanel::AddOutput(QBoxLayout& layout) {
@@ -163,7 +174,7 @@ void OptionsPanel::AddOutput(QBoxLayout& layout) {
 }
 
 void OptionsPanel::ShowFile(const TableFile& file, const ReportPlan& plan) {
-    const cli::InputTable& table = *file.table;
+    const tables::InputTable& table = *file.table;
     rows_ = table.rows;
     stem_ = file.Stem();
     name_.setText(QFileInfo(file.path).fileName());
@@ -179,12 +190,15 @@ void OptionsPanel::ShowFile(const TableFile& file, const ReportPlan& plan) {
     recordName_.clear();
     recordName_.addItem("record number");
     recordName_.addItems(names);
-    recordName_.setCurrentIndex(plan.recordName);
     columns_.Fill(std::move(names), plan.columns);
     view_.scrollToTop();
     title_.setText(plan.title.isEmpty() ? stem_ : plan.title);
     subTotals_.setChecked(plan.subTotals);
     records_.setChecked(plan.records);
+    recordsAll_.setChecked(plan.recordsAll);
+    csvAll_.setChecked(plan.csvAll);
+    // The others decide which columns may name the records.
+    recordName_.setCurrentIndex(plan.recordName);
     SetDirectory(plan.directory);
     ShowConsequences();
 }
@@ -197,6 +211,8 @@ ReportPlan OptionsPanel::Plan() const {
     plan.subTotals = subTotals_.isChecked();
     plan.records = records_.isChecked();
     plan.recordName = recordName_.currentIndex();
+    plan.recordsAll = recordsAll_.isChecked();
+    plan.csvAll = csvAll_.isChecked();
     return plan;
 }
 
@@ -221,15 +237,26 @@ void OptionsPanel::CheckDirectory() {
     if (directory.isEmpty())
         TellDirectoryTrouble("The report needs a directory.");
     else
-        TellDirectoryTrouble(QString::fromStdString(cli::ReportFiles::Trouble(directory.toStdString())));
+        TellDirectoryTrouble(QString::fromStdString(tables::ReportFiles::Trouble(directory.toStdString())));
+}
+
+void OptionsPanel::OfferRecordNames() {
+    const ReportPlan plan = Plan();
+    auto* names = qobject_cast<QStandardItemModel*>(recordName_.model());
+    for (int column = 1; column < names->rowCount(); ++column)
+        names->item(column)->setEnabled(plan.MayNameRecords(column));
+    if (!plan.MayNameRecords(plan.recordName)) recordName_.setCurrentIndex(0);
 }
 
 void OptionsPanel::ShowConsequences() {
+    OfferRecordNames();
     const ReportPlan plan = Plan();
     subTotals_.setEnabled(plan.AnyTotal());
     recordName_.setEnabled(plan.records);
     recordNameLabel_.setEnabled(plan.records);
-    consequence_.setText(Counted(plan.TablePages() + plan.RecordPages(rows_), "page") + " and a CSV file");
+    recordsAll_.setEnabled(plan.records);
+    consequence_.setText(Counted(plan.TablePages() + plan.RecordPages(rows_), "page") + " of " +
+                         Counted(plan.ShownColumns(), "column") + " and a CSV file");
 }
 
 } // namespace ostrel::desk

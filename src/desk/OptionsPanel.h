@@ -45,13 +45,14 @@ private:
     void Browse();
     void CheckDirectory();
     void ShowConsequences();
+    void OfferRecordNames();
 
     QLabel name_, size_;
     QComboBox tables_;
     QLineEdit title_;
     QTableView view_;
     ColumnsModel columns_;
-    QCheckBox subTotals_, records_;
+    QCheckBox subTotals_, records_, recordsAll_, csvAll_;
     QComboBox recordName_;
     QLabel recordNameLabel_;
     QLineEdit directory_;

@@ -17,13 +17,18 @@ PaneStatus::PaneStatus(QMainWindow& window, desktop::OstrelWebHelpWidget& widget
     seconds_.setToolTip("How long the page took to load");
     seconds_.setForegroundRole(QPalette::PlaceholderText);
     window.statusBar()->addPermanentWidget(&seconds_);
+    // The ways are there as well while the toolbar is hidden.
     const auto press = [this](QAction* action, const char* button) {
-        connect(action, &QAction::triggered, this, [this, button] { widget_.Web().PressChild(button); });
+        connect(action, &QAction::triggered, this, [this, button] { widget_.Web().ButtonClick(button); });
     };
     press(actions.back, "back");
     press(actions.forward, "forward");
     press(actions.home, "home");
     press(actions.refresh, "refresh");
+    connect(actions.stop, &QAction::triggered, this, [this] {
+        if (!work_.Running()) widget_.Web().Cancel();
+    });
+    connect(&work, &Work::Changed, this, &PaneStatus::UpdateWays);
     Listen();
     ShowTitle();
     UpdateWays();
@@ -56,6 +61,8 @@ void PaneStatus::ShowTitle() {
 void PaneStatus::ShowStatus(const Text& text) {
     // The control also tells the steps of its own life, and the engine which pages it has left as they were.
     if (text.starts_with("Web Help - ") || work_.Running()) return;
+    // What is cancelled has stopped by then.
+    if (text == "Cancel...") return window_.statusBar()->showMessage("Stopped.");
     window_.statusBar()->showMessage(EqualText(text, "done") ? QString() : desktop::ToQt(text));
 }
 
@@ -86,6 +93,7 @@ void PaneStatus::UpdateWays() {
     for (const auto& [action, button] :
          {std::pair{actions_.back, "back"}, {actions_.forward, "forward"}, {actions_.refresh, "refresh"}})
         action->setEnabled(web.ToolbarButtonEnabled(button));
+    actions_.stop->setEnabled(work_.Running() || web.ToolbarButtonEnabled("stop"));
 }
 
 } // namespace ostrel::desk

@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "cli/CellText.h"
-#include "cli/PageName.h"
-#include "cli/ReportLook.h"
-#include "cli/ReportOptions.h"
 #include "desktop/QtText.h"
 #include "platform/native/NativeFiles.h"
+#include "tables/CellText.h"
+#include "tables/PageName.h"
+#include "tables/ReportLook.h"
+#include "tables/ReportPages.h"
 #include "text/CodePage.h"
 
 namespace ostrel::desk {
@@ -30,25 +30,22 @@ private:
     std::unique_ptr<Files> own_;
 };
 
-Text Html(const QString& text) { return cli::HtmlArgument(text.toStdString()); }
-
-/// As the command line writes it, so that its reports and these stay the same.
-QString Plural(std::size_t count, const QString& thing) {
-    return QString::number(count) + " " + thing + (count == 1 ? "" : "s");
-}
+Text Html(const QString& text) { return tables::HtmlArgument(text.toStdString()); }
 
 } // namespace
 
 ReportJob::ReportJob(desktop::OstrelWebHelpWidget& widget, Work& work, const TableFile& file,
                      const ReportPlan& plan)
     : widget_(widget), web_(widget.Web()), work_(work), calls_(work), file_(file), plan_(plan),
-      table_(*file.table), page_(cli::PageNameOf(file.Stem().toStdString()) + ".htm") {
+      table_(*file.table), page_(tables::PageNameOf(file.Stem().toStdString()) + ".htm"),
+      owned_(std::make_unique<tables::ReportFiles>(std::make_unique<NativeFiles>(calls_),
+                                                   file.path.toStdString(), plan.directory.toStdString(),
+                                                   page_)),
+      files_(owned_.get()) {
     Listen();
 }
 
-ReportJob::~ReportJob() {
-    for (const auto& end : endListening_) end();
-}
+ReportJob::~ReportJob() { StopListening(); }
 
 void ReportJob::Listen() {
     const auto listen = [this](auto& event, auto listener) {
@@ -65,30 +62,43 @@ void ReportJob::Listen() {
     });
 }
 
+StandingFiles ReportJob::Look() {
+    StandingFiles standing;
+    standing.trouble = QString::fromStdString(tables::ReportFiles::Trouble(plan_.directory.toStdString()));
+    if (!standing.trouble.isEmpty()) return standing;
+    SetProperties();
+    const Array<Text> planned =
+        tables::ReportFileNames(table_, Text(tables::ReportFiles::Drive) + page_, web_);
+    for (const std::string& name : files_->Plan(planned, [this] { work_.GiveWay(); }))
+        standing.files << QString::fromStdString(name);
+    standing.otherInput = files_->OfAnotherInput();
+    return standing;
+}
+
 ReportOutcome ReportJob::Run() {
-    auto files =
-        std::make_unique<cli::ReportFiles>(std::make_unique<NativeFiles>(calls_), file_.path.toStdString());
-    const std::string directory = plan_.directory.toStdString();
-    if (const std::string refusal = files->Enter(directory); !refusal.empty()) {
+    if (const std::string refusal = files_->Enter(); !refusal.empty()) {
         outcome_.directoryTrouble = QString::fromStdString(refusal);
         return outcome_;
     }
-    files_ = files.get();
-    const FilesInPlace inPlace(widget_.World(), std::move(files));
-    SetProperties();
+    const FilesInPlace inPlace(widget_.World(), std::move(owned_));
     if (work_.GiveWay())
         outcome_.stopped = true;
     else
         MakePages();
-    files_ = nullptr;
     // The parts of the last page stand in the control, and may be large.
     web_.PageInitialise();
+    StopListening();
     return outcome_;
+}
+
+void ReportJob::StopListening() {
+    for (const auto& end : endListening_) end();
+    endListening_.clear();
 }
 
 void ReportJob::SetProperties() {
     web_.PageReset();
-    cli::ApplyLook(cli::ReportOptions{}, web_);
+    tables::ApplyLook(tables::Look{}, web_);
     SetColumns();
     web_.PageTableRecordNumber(true);
     web_.PageTableRecordNumberSort(true);
@@ -100,14 +110,16 @@ void ReportJob::SetProperties() {
     if (plan_.records) {
         web_.PageTableAddSeparate(true);
         web_.PageTableSeparateHeaderNav(true);
-        const auto column = static_cast<std::size_t>(plan_.recordName);
-        web_.PageTableSeparateHeaderField(column > 0 && column <= table_.nameHtml.size()
-                                              ? table_.nameHtml[column - 1]
-                                              : Text("RecordNumber"));
+        web_.PageTableSeparateHeaderField(
+            plan_.MayNameRecords(plan_.recordName)
+                ? table_.nameHtml[static_cast<std::size_t>(plan_.recordName) - 1]
+                : Text("RecordNumber"));
     }
-    const Text csv = web_.FileExtensionChange(page_, ".csv");
-    web_.PageTableAddExcel(!files_->IsInput(plan_.directory.toStdString(), csv));
+    web_.PageTableAddExcel(!files_->IsInput(web_.FileExtensionChange(page_, ".csv")));
+    web_.PageTableExcelShownOnly(!plan_.csvAll);
+    web_.PageTableSeparateShownOnly(!plan_.recordsAll);
     web_.PageSubTitle(SubTitle());
+    heads_ = tables::ApplyTableLook(tables::Look{}, table_, web_);
 }
 
 void ReportJob::SetColumns() {
@@ -117,51 +129,60 @@ void ReportJob::SetColumns() {
         const Long column = static_cast<Long>(i) + 1;
         web_.PageTableColumnHide(column, !choice.show);
         web_.PageTableColumnSort(column, choice.Sorted());
-        web_.PageTableColumnOrder(column, cli::SortOrderOf(choice.kind));
-        const bool time = choice.kind == cli::ColumnType::Time;
+        web_.PageTableColumnOrder(column, tables::SortOrderOf(choice.kind));
+        const bool time = choice.kind == tables::ColumnType::Time;
         web_.PageTableColumnTotal(column, choice.Totalled() && !time);
         web_.PageTableColumnTotalTime(column, choice.Totalled() && time);
     }
 }
 
 Text ReportJob::SubTitle() const {
-    const Text csv = web_.FileExtensionChange(page_, ".csv");
-    return Html(Plural(static_cast<std::size_t>(table_.rows), "row") + ", " +
-                Plural(table_.names.size(), "column")) +
-           " &middot; " + web_.CreateLink(csv, csv, false, false, false);
+    // Where the file's name is that of the input, it holds what is hidden as well.
+    const bool tellsHidden =
+        !web_.PageTableAddExcel() && tables::ShownColumns(table_, web_) < table_.Columns() && !plan_.csvAll;
+    return tables::DefaultSubTitle(table_, tellsHidden ? Text() : web_.FileExtensionChange(page_, ".csv"),
+                                   web_);
 }
 
 void ReportJob::MakePages() {
-    const Array<Text> names{std::vector<Text>(table_.nameHtml)};
-    const Array<Text> plainNames{std::vector<Text>(table_.names)};
-    Array<Flag> right;
-    for (const ColumnChoice& choice : plan_.columns) right.Append(choice.kind != cli::ColumnType::Text);
-    const CellTable cells(table_.cells.Cells(), table_.rows, table_.Columns(), &plainNames);
+    std::vector<tables::ColumnType> types;
+    for (const ColumnChoice& choice : plan_.columns) types.push_back(choice.kind);
     Text message;
-    const bool made = web_.PageCreateTableFrom(Text(cli::ReportFiles::Drive) + page_, Html(plan_.title),
-                                               names, right, cells, message);
-    for (auto failure = failures_.cbegin(); failure != failures_.cend(); ++failure)
-        outcome_.troubles << failure.key() + " can't be written: " + failure.value() + ".";
-    outcome_.stopped = work_.StopWanted() && !made;
-    if (!made && !outcome_.stopped && failures_.isEmpty()) {
-        // No event tells of the CSV file, and the message does not name it.
-        const Text& failed = files_->LastFailed();
-        outcome_.troubles << QString::fromStdString(
-            failed.empty()
-                ? files_->Shown(message)
-                : files_->Shown(failed) + " can't be written: " + ToUtf8(files_->LastReason()) + ".");
-    }
-    outcome_.made = made && outcome_.troubles.isEmpty();
+    const bool made = tables::MakeReport(table_, types, Text(tables::ReportFiles::Drive) + page_,
+                                         Html(plan_.title), web_, message);
+    Finish(made, message);
     outcome_.cells = table_.rows * (1 + std::count_if(plan_.columns.begin(), plan_.columns.end(),
                                                       [](const ColumnChoice& c) { return c.show; }));
     outcome_.page = QDir(plan_.directory).absoluteFilePath(desktop::ToQt(page_));
 }
 
+void ReportJob::Finish(bool made, const Text& message) {
+    outcome_.stopped = work_.StopWanted() && !made;
+    std::string trouble = files_->End();
+    if (!made && !outcome_.stopped && failures_.Empty() && trouble.empty()) {
+        // No event tells of the CSV file, and the message does not name it.
+        if (files_->LastFailed().empty())
+            trouble = files_->Shown(message);
+        else
+            failures_.Add(files_->Shown(files_->LastFailed()), ToUtf8(files_->LastReason()));
+    }
+    const bool complete = made && failures_.Empty() && trouble.empty();
+    const std::string leaving = files_->Leave(complete);
+    if (complete) trouble = leaving;
+    outcome_.deleted = static_cast<qint64>(files_->Deleted());
+    for (const std::string& sentence : failures_.Sentences())
+        outcome_.troubles << QString::fromStdString(sentence);
+    if (!trouble.empty()) outcome_.troubles << QString::fromStdString(trouble);
+    outcome_.made = made && outcome_.troubles.isEmpty();
+}
+
 void ReportJob::PageDone(const Text& path, bool isNew, bool failed) {
-    if (failed)
-        failures_[QString::fromStdString(files_->Shown(path))] = desktop::ToQt(files_->LastReason());
-    else
+    if (!failed)
         ++(isNew ? outcome_.written : outcome_.unchanged);
+    else if (files_->End().empty())
+        failures_.Add(files_->Shown(path), ToUtf8(files_->LastReason()));
+    else
+        web_.HostStop(true);
     ++pagesDone_;
 }
 

@@ -1,15 +1,17 @@
 #pragma once
 
-#include <QMap>
 #include <QStringList>
 #include <functional>
 #include <vector>
 
-#include "cli/ReportFiles.h"
+#include "desk/ReportPlaces.h"
 #include "desk/ReportPlan.h"
 #include "desk/TableFile.h"
 #include "desk/Work.h"
 #include "desk/YieldingCalls.h"
+#include "tables/PageFailures.h"
+#include "tables/PageHeads.h"
+#include "tables/ReportFiles.h"
 
 namespace ostrel::desk {
 
@@ -22,6 +24,7 @@ struct ReportOutcome {
     QString page;             ///< system's path of the main page
     qint64 cells = 0;         ///< that the main page shows
     int written = 0, unchanged = 0;
+    qint64 deleted = 0; ///< files of the last report that this one has no longer
 };
 
 /// One making of a report by the control of a widget.
@@ -33,15 +36,21 @@ public:
     ReportJob(const ReportJob&) = delete;
     ReportJob& operator=(const ReportJob&) = delete;
 
-    /// Runs as the work in hand.
+    /// Finds out what stands there, and changes nothing. Runs as the work in hand, before `Run`.
+    StandingFiles Look();
+    /// What was found to stand there may be replaced.
+    void AllowAll() { files_->AllowAll(); }
+    /// Runs as the work in hand, once.
     ReportOutcome Run();
 
 private:
     void Listen();
+    void StopListening();
     void SetProperties();
     void SetColumns();
     Text SubTitle() const;
     void MakePages();
+    void Finish(bool made, const Text& message);
     void PageDone(const Text& path, bool isNew, bool failed);
     void ShowProgress(Long records);
 
@@ -51,11 +60,13 @@ private:
     YieldingCalls calls_;
     const TableFile& file_;
     const ReportPlan& plan_;
-    const cli::InputTable& table_;
-    Text page_; ///< name of the main page
-    cli::ReportFiles* files_ = nullptr;
+    const tables::InputTable& table_;
+    Text page_;                                  ///< name of the main page
+    std::unique_ptr<tables::ReportFiles> owned_; ///< until the platform has them
+    tables::ReportFiles* files_;
+    std::unique_ptr<tables::PageHeads> heads_;
     ReportOutcome outcome_;
-    QMap<QString, QString> failures_; ///< the page and why
+    tables::PageFailures failures_;
     qint64 pagesDone_ = 0;
     std::vector<std::function<void()>> endListening_;
 };

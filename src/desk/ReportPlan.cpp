@@ -13,7 +13,8 @@ namespace ostrel::desk {
 
 namespace {
 
-QJsonArray Names(const ReportPlan& plan, const cli::InputTable& table, bool (*picks)(const ColumnChoice&)) {
+QJsonArray Names(const ReportPlan& plan, const tables::InputTable& table,
+                 bool (*picks)(const ColumnChoice&)) {
     QJsonArray names;
     for (std::size_t i = 0; i < plan.columns.size(); ++i)
         if (picks(plan.columns[i])) names.append(ShownName(table, i));
@@ -32,6 +33,15 @@ bool ReportPlan::AnyTotal() const {
     return std::any_of(columns.begin(), columns.end(), [](const ColumnChoice& c) { return c.Totalled(); });
 }
 
+qint64 ReportPlan::ShownColumns() const {
+    return std::count_if(columns.begin(), columns.end(), [](const ColumnChoice& c) { return c.show; });
+}
+
+bool ReportPlan::MayNameRecords(int column) const {
+    const auto place = static_cast<std::size_t>(column) - 1;
+    return column > 0 && place < columns.size() && (recordsAll || columns[place].show);
+}
+
 qint64 ReportPlan::TablePages() const {
     constexpr qint64 mainPages = 2; // the whole table, and from its last record up
     const std::size_t reached = std::min(columns.size(), ColumnReach);
@@ -39,13 +49,13 @@ qint64 ReportPlan::TablePages() const {
                                          [](const ColumnChoice& c) { return c.Sorted(); });
 }
 
-ReportPlan FirstPlan(const cli::InputTable& table) {
+ReportPlan FirstPlan(const tables::InputTable& table) {
     ReportPlan plan;
-    for (const cli::ColumnType kind : table.types) plan.columns.push_back({.kind = kind, .found = kind});
+    for (const tables::ColumnType kind : table.types) plan.columns.push_back({.kind = kind, .found = kind});
     return plan;
 }
 
-Text PlanText(const ReportPlan& plan, const cli::InputTable& table) {
+Text PlanText(const ReportPlan& plan, const tables::InputTable& table) {
     QJsonObject object;
     object["title"] = plan.title;
     object["directory"] = plan.directory;
@@ -54,13 +64,15 @@ Text PlanText(const ReportPlan& plan, const cli::InputTable& table) {
     object["totals"] = Names(plan, table, [](const ColumnChoice& c) { return c.total; });
     object["subTotals"] = plan.subTotals;
     object["records"] = plan.records;
+    object["csvAll"] = plan.csvAll;
+    object["recordsAll"] = plan.recordsAll;
     if (plan.recordName > 0)
         object["recordName"] = ShownName(table, static_cast<std::size_t>(plan.recordName - 1));
     const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
     return json.toPercentEncoding(" {}[]\",:/").toStdString();
 }
 
-void ApplyPlanText(TextView text, const cli::InputTable& table, ReportPlan& plan) {
+void ApplyPlanText(TextView text, const tables::InputTable& table, ReportPlan& plan) {
     const QByteArray bytes(text.data(), static_cast<qsizetype>(text.size()));
     const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromPercentEncoding(bytes)).object();
     if (object.isEmpty()) return;
@@ -68,6 +80,8 @@ void ApplyPlanText(TextView text, const cli::InputTable& table, ReportPlan& plan
     plan.directory = object["directory"].toString(plan.directory);
     plan.subTotals = object["subTotals"].toBool();
     plan.records = object["records"].toBool();
+    plan.csvAll = object["csvAll"].toBool();
+    plan.recordsAll = object["recordsAll"].toBool();
     const QSet<QString> hidden = Set(object["hidden"]), unsorted = Set(object["unsorted"]),
                         totals = Set(object["totals"]);
     plan.recordName = 0;

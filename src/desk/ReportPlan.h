@@ -3,29 +3,29 @@
 #include <QString>
 #include <vector>
 
-#include "cli/ColumnTypes.h"
-#include "cli/InputTable.h"
+#include "tables/ColumnTypes.h"
+#include "tables/InputTable.h"
 
 namespace ostrel::desk {
 
 /// What becomes of one column.
 struct ColumnChoice {
-    cli::ColumnType kind = cli::ColumnType::Text;  ///< what it is taken for
-    cli::ColumnType found = cli::ColumnType::Text; ///< what all its values are
+    tables::ColumnType kind = tables::ColumnType::Text;  ///< what it is taken for
+    tables::ColumnType found = tables::ColumnType::Text; ///< what all its values are
     bool show = true;
     bool sort = true;
     bool total = false;
 
     /// A sum of values that are no numbers would be wrong without a word.
     bool Countable() const {
-        return kind == found && (kind == cli::ColumnType::Number || kind == cli::ColumnType::Time);
+        return kind == found && (kind == tables::ColumnType::Number || kind == tables::ColumnType::Time);
     }
     bool Sorted() const { return show && sort; }
     bool Totalled() const { return show && total && Countable(); }
 };
 
 /// The options of the component end at this column; those behind it are shown and have no pages.
-inline constexpr std::size_t ColumnReach = 100;
+inline constexpr auto ColumnReach = static_cast<std::size_t>(tables::ColumnReach);
 
 /// What the user wants of a report.
 struct ReportPlan {
@@ -35,20 +35,25 @@ struct ReportPlan {
     bool subTotals = false;
     bool records = false; ///< a page for each record
     int recordName = 0;   ///< the column whose value names a record, from 1; 0 for its number
+    bool csvAll = false, recordsAll = false; ///< with the columns that are not shown
 
     bool AnyTotal() const;
+    qint64 ShownColumns() const;
+    /// Whether the value of that column, from 1, can name the records: what is not shown must not come out
+    /// so.
+    bool MayNameRecords(int column) const;
     /// Pages of all records, and those of one record each.
     qint64 TablePages() const;
     qint64 RecordPages(Long rows) const { return records ? rows : 0; }
 };
 
 /// The plan of a table nobody has chosen anything for.
-ReportPlan FirstPlan(const cli::InputTable& table);
+ReportPlan FirstPlan(const tables::InputTable& table);
 
 /// A plan as ASCII that settings may hold. Columns are known by their names, so that it also serves a file
 /// that has changed; kinds are found anew.
-Text PlanText(const ReportPlan& plan, const cli::InputTable& table);
+Text PlanText(const ReportPlan& plan, const tables::InputTable& table);
 /// Takes over what of such a text fits the table.
-void ApplyPlanText(TextView text, const cli::InputTable& table, ReportPlan& plan);
+void ApplyPlanText(TextView text, const tables::InputTable& table, ReportPlan& plan);
 
 } // namespace ostrel::desk

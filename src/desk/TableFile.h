@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <memory>
 
-#include "cli/InputTable.h"
 #include "desk/Work.h"
+#include "tables/InputTable.h"
 
 namespace ostrel::desk {
 
@@ -15,7 +15,7 @@ struct TableFile {
     QString path;
     QStringList tables; ///< of a database
     QString chosen;     ///< which of them it is
-    std::shared_ptr<cli::InputTable> table;
+    std::shared_ptr<tables::InputTable> table;
     qint64 size = 0;
     QDateTime written;
 
@@ -37,6 +37,6 @@ struct TableReading {
 TableReading ReadTableFile(const QString& path, const QString& wantedTable, Work& work);
 
 /// The name of a column as the user knows it.
-QString ShownName(const cli::InputTable& table, std::size_t column);
+QString ShownName(const tables::InputTable& table, std::size_t column);
 
 } // namespace ostrel::desk

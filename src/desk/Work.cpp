@@ -36,7 +36,9 @@ void Work::Begin(const QString& heading) {
 void Work::End() {
     running_ = false;
     if (panelShown_) widget_.Web().StopHide();
+    // The button of the panel has set the one, `Stop` the other.
     widget_.Web().StopPressed(false);
+    widget_.Web().HostStop(false);
     widget_.Sync();
     emit Changed();
 }
@@ -51,13 +53,12 @@ bool Work::GiveWay() {
 void Work::Show(double fraction) {
     ShowPanelWhereDue();
     if (panelShown_) widget_.Web().StopGaugeShow(static_cast<Single>(std::clamp(fraction, 0.0, 1.0)));
-    if (stopWanted_) widget_.Web().StopPressed(true);
 }
 
 void Work::Stop() {
     if (!running_) return;
     stopWanted_ = true;
-    widget_.Web().StopPressed(true);
+    widget_.Web().HostStop(true);
 }
 
 void Work::ShowPanelWhereDue() {

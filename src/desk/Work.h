@@ -31,8 +31,7 @@ public:
     bool StopWanted() const { return stopWanted_; }
     /// Lets the windows answer where it is time. The result is `StopWanted`.
     bool GiveWay();
-    /// Shows how much is done, from 0 to 1, and tells the control again of a stop: its engine forgets it
-    /// whenever a phase begins.
+    /// Shows how much is done, from 0 to 1.
     void Show(double fraction);
     void Stop();
 

@@ -36,4 +36,10 @@ ssize_t YieldingCalls::Write(int file, const iovec* pieces, int count) {
     return SystemCalls::Write(file, pieces, std::max(taken, 1));
 }
 
+int YieldingCalls::Unlink(const char* path) {
+    // What has been begun is cleaned up after a stop, too.
+    work_.GiveWay();
+    return SystemCalls::Unlink(path);
+}
+
 } // namespace ostrel::desk

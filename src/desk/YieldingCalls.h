@@ -13,6 +13,7 @@ public:
 
     ssize_t Read(int file, char* buffer, std::size_t size) override;
     ssize_t Write(int file, const iovec* pieces, int count) override;
+    int Unlink(const char* path) override;
 
 private:
     Work& work_;

@@ -42,6 +42,10 @@ Integer ShiftOf(Qt::KeyboardModifiers keys) {
                                 (keys.testFlag(Qt::AltModifier) ? 4 : 0));
 }
 
+/// What a widget does not take would go on to the one around it and be told from there: of a button once
+/// more, of a label or the stop panel though nobody hears of those.
+void KeepMouse(QWidget& widget) { widget.setAttribute(Qt::WA_NoMousePropagation); }
+
 } // namespace
 
 ControlView::ControlView(QWidget& surface)
@@ -66,8 +70,11 @@ ControlView::ControlView(QWidget& surface)
     }
     MakeAddressLine();
     MakeStopPanel();
-    for (const auto& [name, widget] : widgets_)
-        if (widget != browser_ && widget != paneHost_) widget->hide();
+    for (const auto& [name, widget] : widgets_) {
+        if (widget == browser_ || widget == paneHost_) continue;
+        widget->hide();
+        KeepMouse(*widget);
+    }
 }
 
 QToolButton* ControlView::MakeToolbarButton(const Text& name) {
@@ -78,6 +85,7 @@ QToolButton* ControlView::MakeToolbarButton(const Text& name) {
     button->setFocusPolicy(Qt::TabFocus);
     button->setMouseTracking(true);
     button->installEventFilter(this);
+    KeepMouse(*button);
     connect(button, &QToolButton::clicked, this, [this, name] { Press(name); });
     return button;
 }
@@ -190,13 +198,8 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease && type != QEvent::MouseMove)
         return false;
-    const auto& mouse = *static_cast<QMouseEvent*>(event);
-    Mouse(mouse, FromQt(watched->objectName()));
-    // What nobody takes goes on to the widget around, and would be told once more from there; buttons take
-    // what the left button does.
-    const bool left = type == QEvent::MouseMove ? mouse.buttons().testFlag(Qt::LeftButton)
-                                                : mouse.button() == Qt::LeftButton;
-    return watched == toolbar_ || !left;
+    Mouse(*static_cast<QMouseEvent*>(event), FromQt(watched->objectName()));
+    return false;
 }
 
 void ControlView::Mouse(const QMouseEvent& event, const Text& child) {

@@ -28,30 +28,6 @@ QString TipText(TextView tip) {
     return "<p style='white-space:pre-wrap'>" + plain.toHtmlEscaped().replace('\n', "<br>") + "</p>";
 }
 
-LineText::LineText(TextView text) : raw_(ShownLines(text, QChar::ParagraphSeparator)) {
-    int passed = 0;
-    for (std::size_t at = text.find(LineEnd); at != TextView::npos; at = text.find(LineEnd, at + 2))
-        pairs_.push_back(static_cast<int>(at) - passed++);
-}
-
-int LineText::ToRaw(Long position) const {
-    // The pair of number k ends its CR at pairs_[k] + k + 1 in the buffer; each one behind counts one less.
-    std::size_t low = 0, high = pairs_.size();
-    while (low < high) {
-        const std::size_t middle = (low + high) / 2;
-        if (pairs_[middle] + static_cast<int>(middle) + 1 <= position)
-            low = middle + 1;
-        else
-            high = middle;
-    }
-    return position - static_cast<int>(low);
-}
-
-Long LineText::ToModel(int position) const {
-    return position + static_cast<Long>(std::distance(
-                          pairs_.begin(), std::lower_bound(pairs_.begin(), pairs_.end(), position)));
-}
-
 TextChange ChangeBetween(const QString& before, const QString& after, int latest) {
     const qsizetype shorter = std::min(before.size(), after.size());
     const auto firstOther =

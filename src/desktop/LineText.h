@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <vector>
 
 #include "text/Text.h"
 
@@ -16,23 +15,6 @@ Text ModelLines(const QString& raw);
 QString TitleText(TextView title);
 /// A tip that is shown as it is, even where it looks like HTML.
 QString TipText(TextView tip);
-
-/// A buffer of the component beside the raw text of the document that shows it. A CR LF is one character
-/// there, and all else is one character in both.
-class LineText {
-public:
-    explicit LineText(TextView text = {});
-
-    /// Lines are parted by paragraph separators, as in QTextDocument::toRawText.
-    const QString& Raw() const { return raw_; }
-    /// A position between CR and LF stands before the line end.
-    int ToRaw(Long position) const;
-    Long ToModel(int position) const;
-
-private:
-    QString raw_;
-    std::vector<int> pairs_; ///< where in `raw_` a CR LF stands, ascending
-};
 
 /// What turned one text into another: `inserted` came in the place of `removed` characters from `start`.
 struct TextChange {

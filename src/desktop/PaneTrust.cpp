@@ -34,6 +34,15 @@ bool IsReadAsText(const QUrl& file) {
     return type.inherits("application/json") || type.name().endsWith("json") || type.name() == "text/vtt";
 }
 
+/// Whether a remote page is behind the request. To the engine the first party of a step in the history is the
+/// page that the step leaves, which has no say in it: the step leads to where the user has been.
+bool IsOfRemotePage(const QWebEngineUrlRequestInfo& request) {
+    const bool stepOfHistory =
+        request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame &&
+        request.navigationType() == QWebEngineUrlRequestInfo::NavigationTypeBackForward;
+    return IsRemote(request.initiator()) || (!stepOfHistory && IsRemote(request.firstPartyUrl()));
+}
+
 /// What pages are made of.
 bool IsPartOfPage(QWebEngineUrlRequestInfo::ResourceType type) {
     switch (type) {
@@ -92,7 +101,7 @@ void PaneTrust::interceptRequest(QWebEngineUrlRequestInfo& request) {
     if (offline_ && !IsLocal(url)) return request.block(true);
     if (!url.isLocalFile() && !FrameFiles::IsFrameFile(url)) return;
     // Local files are no business of remote pages.
-    if (IsRemote(request.initiator()) || IsRemote(request.firstPartyUrl())) return request.block(true);
+    if (IsOfRemotePage(request)) return request.block(true);
     if (url.isLocalFile() && IsInnerDocument(type)) return request.redirect(FrameFiles::AddressOf(url));
     const bool shown = IsInnerDocument(type) || (IsPartOfPage(type) && !IsReadAsText(url));
     if (!shown) request.block(true);

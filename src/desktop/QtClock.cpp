@@ -2,12 +2,15 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QSocketNotifier>
 #include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <limits>
+#include <vector>
 
 #include "platform/native/LocalTime.h"
+#include "platform/native/WaitForSources.h"
 
 namespace ostrel::desktop {
 
@@ -22,6 +25,25 @@ TimerQueue::Moment Milliseconds() {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
 }
+
+/// Lets the loop wake for the sources while it lives.
+class LoopSources {
+public:
+    explicit LoopSources(std::span<const WakeSource> sources) {
+        for (const WakeSource& source : sources) {
+            if (source.descriptor < 0) continue;
+            if (source.read) Add(source.descriptor, QSocketNotifier::Read);
+            if (source.write) Add(source.descriptor, QSocketNotifier::Write);
+        }
+    }
+
+private:
+    void Add(int descriptor, QSocketNotifier::Type type) {
+        notifiers_.push_back(std::make_unique<QSocketNotifier>(descriptor, type));
+    }
+
+    std::vector<std::unique_ptr<QSocketNotifier>> notifiers_;
+};
 
 } // namespace
 
@@ -82,6 +104,27 @@ void QtClock::Wait(Long milliseconds) {
     ++depth_;
     loop.exec();
     --depth_;
+}
+
+bool QtClock::Sleep(Long longest, std::span<WakeSource> sources) {
+    if (depth_ >= MaximumDepth) return WaitForSources(sources, longest);
+    const bool wait = longest > 0 && !queue_.Due() && !WaitForSources(sources, 0);
+    ++depth_;
+    RunDue();
+    if (turned_) turned_();
+    if (wait) {
+        const LoopSources wakers(sources);
+        QTimer end;
+        end.setSingleShot(true);
+        end.setTimerType(Qt::PreciseTimer);
+        end.start(longest);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    } else {
+        QCoreApplication::processEvents();
+    }
+    --depth_;
+    lastTurn_ = Milliseconds();
+    return WaitForSources(sources, 0);
 }
 
 void QtClock::RunDue() {

@@ -21,6 +21,8 @@ public:
     bool Pending() const override;
     void Yield() override;
     void Wait(Long milliseconds) override;
+    /// What the loop does for windows ends it too.
+    bool Sleep(Long longest, std::span<WakeSource> sources) override;
 
     /// Whether a yield is being carried out.
     bool InYield() const { return depth_ > 0; }

@@ -23,7 +23,7 @@ constexpr TextView BlankPage = "about:blank";
 /// Names of pages are kept for as long as a history may lead back to them.
 constexpr qsizetype MostNames = 10'000;
 /// How long a page that was told to stop may leave each of two questions open, in milliseconds.
-constexpr int PatienceWithScripts = 2000;
+constexpr int Patience = 450;
 
 QString Quoted(const QString& text) {
     const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
@@ -45,7 +45,15 @@ QtPane::QtPane(QWidget& host)
     view_->setPage(page_.get());
     auto* layout = new QVBoxLayout(&host);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(view_.get());
+    layout->setSpacing(0);
+    notice_.setObjectName("paneNotice");
+    notice_.setWordWrap(true);
+    notice_.setMargin(12);
+    // Both colours are fixed, so that they are read on dark desktops as well.
+    notice_.setStyleSheet("background: #FCE8E6; color: #1F2933;");
+    notice_.hide();
+    layout->addWidget(&notice_);
+    layout->addWidget(view_.get(), 1);
     ConnectPage();
 }
 
@@ -63,16 +71,14 @@ void QtPane::ConnectPage() {
     connect(&QWebEnginePage::loadingChanged,
             [this](const QWebEngineLoadingInfo& info) { LoadingChanged(info); });
     connect(&QWebEnginePage::loadProgress, [this](int percent) {
-        if (load_ && load_->way != Way::Quiet)
+        if (Coming() && load_->way != Way::Quiet)
             Tell([&](BrowserSink& sink) { sink.ProgressChange(percent, 100); });
     });
     connect(&QWebEnginePage::urlChanged, [this](const QUrl&) { UrlChanged(); });
     connect(&QWebEnginePage::titleChanged, [this](const QString& title) { TitleChanged(title); });
     connect(&QWebEnginePage::linkHovered, [this](const QString& url) { Hovered(url); });
     connect(&QWebEnginePage::renderProcessTerminated,
-            [this](QWebEnginePage::RenderProcessTerminationStatus, int) {
-                if (load_) Finished("Can't open page " + Told(load_->url));
-            });
+            [this](QWebEnginePage::RenderProcessTerminationStatus, int) { ProcessEnded(); });
     QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, page,
                      [this](const QWebEngineDownloadRequest* download) {
                          TellStatus("Can't open page " + Told(download->url()));
@@ -85,7 +91,7 @@ void QtPane::ConnectPage() {
             QTimer::singleShot(0, view_.get(), [this] { Focus(); });
     });
     deaf_.setSingleShot(true);
-    deaf_.setInterval(PatienceWithScripts);
+    deaf_.setInterval(Patience);
     QObject::connect(&deaf_, &QTimer::timeout, page, [this] { NoLife(); });
     // Frames inside the page change the history with no load of the page. A step that is about to begin, and
     // may yet be vetoed, changes the actions as well, so they are asked a while later.
@@ -178,13 +184,17 @@ void QtPane::Stop() {
     QTimer::singleShot(0, page_.get(), [this] {
         if (load_ && load_->halting) Halted();
     });
-    // A script without end hears of no stop, and keeps every further page waiting.
-    if (deaf_.isActive()) return;
-    questions_ = 0;
     AskForLife();
 }
 
 void QtPane::AskForLife() {
+    // A layout or a script without end hears of no stop, and keeps every further page waiting.
+    if (deaf_.isActive()) return;
+    questions_ = 0;
+    PutQuestion();
+}
+
+void QtPane::PutQuestion() {
     ++questions_;
     page_->runJavaScript("0", [alarm = QPointer<QTimer>(&deaf_)](const QVariant&) {
         if (alarm) alarm->stop();
@@ -196,9 +206,37 @@ void QtPane::NoLife() {
     // A page that waits for the user's answer is not deaf.
     if (QApplication::activeModalWidget()) return;
     // The first question may have been lost with the page that was left.
-    if (questions_ < 2) return AskForLife();
-    if (const qint64 process = page_->renderProcessPid(); process > 0)
-        ::kill(static_cast<pid_t>(process), SIGKILL);
+    if (questions_ < 2) return PutQuestion();
+    const qint64 process = page_->renderProcessPid();
+    if (process > 0) killed_ = ::kill(static_cast<pid_t>(process), SIGKILL) == 0;
+}
+
+void QtPane::ProcessEnded() {
+    const bool killed = std::exchange(killed_, false);
+    if (Coming() && load_->way == Way::Plain && !load_->committed && !load_->again) {
+        // It waited for the process of the page that it was to follow, and is lost with it.
+        load_->again = true;
+        load_->started = false;
+        QTimer::singleShot(0, page_.get(), [this] { AskEngineAgain(); });
+        return;
+    }
+    notice_.setText(
+        killed ? "This page gave no answer and was ended. Refresh loads it again."
+               : "The browser failed at this page, which may be too large for it. Refresh tries again.");
+    notice_.show();
+    if (load_) Finished("Can't open page " + Told(load_->url));
+}
+
+void QtPane::AskEngineAgain() {
+    if (!AskedAgain()) return;
+    const QWebEngineHistory& history = *page_->history();
+    const QUrl& url = load_->url;
+    if (load_->step && history.canGoBack() && history.backItem().url() == url)
+        page_->triggerAction(QWebEnginePage::Back);
+    else if (load_->step && history.canGoForward() && history.forwardItem().url() == url)
+        page_->triggerAction(QWebEnginePage::Forward);
+    else
+        page_->load(url);
 }
 
 void QtPane::Refresh2(Long level) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QLabel>
 #include <QPointer>
 #include <QTimer>
 #include <QWebEngineLoadingInfo>
@@ -20,10 +21,11 @@ namespace ostrel::desktop {
 /// A pane with a real browser engine. What the engine signals comes out in this order: BeforeNavigate2,
 /// DownloadBegin, StatusTextChange and ProgressChange as they come, NavigateComplete2, TitleChange, what
 /// changed of the forward and back states, StatusTextChange "done", DocumentComplete, DownloadComplete. A
-/// refresh tells no navigation, and DocumentComplete only where it fails or is stopped; a step inside the
-/// page on view tells no download. Where a page cannot be had the engine shows one that says why, and that
-/// one completes; the status text then says so in place of "done". Local pages are reported by the very text
-/// given to `Navigate`. The first pane of a process must come before any other use of the engine in it.
+/// page is done when it is laid out, which for a large one is long after it has come; the pane is busy until
+/// then. A refresh tells no navigation, and DocumentComplete only where it fails or is stopped; a step inside
+/// the page on view tells no download. Where a page cannot be had the engine shows one that says why, and
+/// that one completes; the status text then says so in place of "done". Local pages are reported by the very
+/// text given to `Navigate`. The first pane of a process must come before any other use of the engine in it.
 class QtPane final : public BrowserPane {
 public:
     /// The view fills `host`, which outlives the pane.
@@ -38,6 +40,8 @@ public:
     void GoForward() override;
     void GoHome() override;
     void GoSearch() override;
+    /// A page that does not answer within a second after it, be it in the middle of its layout or in a script
+    /// without end, is ended; a line in the pane says so.
     void Stop() override;
     void Refresh2(Long level) override;
     /// Command 12 copies the selection, 17 selects all; others are left alone.
@@ -62,9 +66,14 @@ private:
     struct Load {
         Way way = Way::Plain;
         QUrl url;
+        unsigned number = 0;
         bool started = false;
         bool committed = false;
+        bool loaded = false;  ///< all of it has come, and is being laid out
         bool halting = false; ///< it was told to stop, and its end is about to be told
+        bool step = false;    ///< in the history
+        /// Asked of the engine once more, since the process of the page before has ended.
+        bool again = false;
     };
 
     void ConnectPage();
@@ -74,11 +83,21 @@ private:
     bool HostAllows(const QUrl& url, bool mainFrame);
     QWebEnginePage* OpenWindow();
     void Begin(Way way, const QUrl& url);
-    /// Ends a page that gives no answer, since a script in it never ends.
+    /// Ends the page if it gives no answer; nothing new where one is awaited already.
     void AskForLife();
+    void PutQuestion();
     void NoLife();
+    /// The engine's process of the page has come to its end.
+    void ProcessEnded();
+    void AskEngineAgain();
+    /// Whether the load in hand has yet to come, in whole or in part.
+    bool Coming() const { return load_ && !load_->loaded; }
+    /// Whether it is asked of the engine once more, which has yet to begin it.
+    bool AskedAgain() const { return load_ && load_->again && !load_->started; }
     void LoadingChanged(const QWebEngineLoadingInfo& info);
     void Started(const QUrl& url);
+    /// The load in hand has come; its end is told when it is laid out.
+    void AwaitLayout();
     /// Tells the end of the load in hand; an empty status is not told.
     void Finished(const Text& status);
     /// The load in hand was stopped. What had come of a page by then is on view and complete.
@@ -117,9 +136,11 @@ private:
     std::unique_ptr<QWebEngineView> view_;
     std::unique_ptr<PanePage> page_;
     BrowserWindows windows_;
+    QLabel notice_;
 
     BrowserSink* sink_ = nullptr;
     std::optional<Load> load_;
+    unsigned loads_ = 0;
     /// Asked of the pane and not begun yet.
     std::optional<QUrl> asked_;
     /// Tells a request from those that came behind it.
@@ -131,7 +152,8 @@ private:
     bool hovering_ = false;
     QTimer settle_;
     QTimer deaf_;
-    int questions_ = 0; ///< put to the page since it was told to stop
+    bool killed_ = false; ///< by this pane, and the engine has yet to tell
+    int questions_ = 0;   ///< put to the page since it was last to show that it answers
 };
 
 } // namespace ostrel::desktop

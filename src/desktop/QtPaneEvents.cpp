@@ -1,5 +1,6 @@
 #include <QTimer>
 #include <QWebEngineHistory>
+#include <QWebEngineScript>
 
 #include "desktop/PaneAddress.h"
 #include "desktop/QtPane.h"
@@ -44,6 +45,7 @@ bool QtPane::MayGo(const QUrl& url, QWebEnginePage::NavigationType type, bool ma
         load_->url = url;
         return true;
     }
+    if (AskedAgain() && load_->url == url) return true;
     const unsigned request = ++requests_;
     const bool allowed = HostAllows(url, true);
     // The listener may have sent the pane elsewhere.
@@ -51,6 +53,7 @@ bool QtPane::MayGo(const QUrl& url, QWebEnginePage::NavigationType type, bool ma
     asked_.reset();
     if (!allowed) return false;
     Begin(Way::Plain, url);
+    if (load_) load_->step = type == QWebEnginePage::NavigationTypeBackForward;
     return true;
 }
 
@@ -60,10 +63,15 @@ QWebEnginePage* QtPane::OpenWindow() {
 }
 
 void QtPane::Begin(Way way, const QUrl& url) {
+    // What is being laid out still would keep the next page waiting.
+    if (way == Way::Plain && load_ && load_->committed) AskForLife();
+    // What has come and is left before it was laid out is complete all the same.
+    if (load_ && load_->loaded) Finished(Done);
     Stopped();
     if (way == Way::Plain) windows_.OpenerLeaves();
-    load_ = Load{way, url};
+    load_ = Load{way, url, ++loads_};
     hovering_ = false;
+    notice_.hide();
     Tell([](BrowserSink& sink) { sink.DownloadBegin(); });
     TellStatus("Opening page " + Told(url) + "...");
 }
@@ -82,17 +90,17 @@ void QtPane::Stopped() {
 
 void QtPane::LoadingChanged(const QWebEngineLoadingInfo& info) {
     // What was vetoed or replaced also comes to its end, and is no longer the load in hand.
-    const bool inHand = load_ && (load_->started || load_->url == info.url());
+    const bool inHand = Coming() && !AskedAgain() && (load_->started || load_->url == info.url());
     switch (info.status()) {
     case QWebEngineLoadingInfo::LoadStartedStatus:
         return Started(info.url());
     case QWebEngineLoadingInfo::LoadStoppedStatus:
         // Where the host forbade the page to lead on, the engine names the place that it led to.
-        if (load_ && load_->started && (load_->committed || load_->url == info.url())) Halted();
+        if (Coming() && load_->started && (load_->committed || load_->url == info.url())) Halted();
         if (asked_ && *asked_ == info.url()) Refused(Told(info.url()));
         return;
     case QWebEngineLoadingInfo::LoadSucceededStatus:
-        return inHand ? Finished(Done) : void();
+        return inHand ? AwaitLayout() : void();
     case QWebEngineLoadingInfo::LoadFailedStatus:
         return inHand ? Finished("Can't open page " + Told(load_->url)) : void();
     }
@@ -100,11 +108,24 @@ void QtPane::LoadingChanged(const QWebEngineLoadingInfo& info) {
 
 void QtPane::Started(const QUrl& url) {
     // A script that goes back to a blank page: the engine asks nobody, and it cannot be stopped any more.
-    if (!load_ && !asked_ && IsBlank(url)) {
+    if (!Coming() && !asked_ && IsBlank(url)) {
         (void)HostAllows(url, true);
         Begin(Way::Plain, url);
     }
     if (load_) load_->started = true;
+}
+
+void QtPane::AwaitLayout() {
+    if (load_->way == Way::Quiet) return Finished(Done);
+    shown_ = page_->url();
+    load_->loaded = true;
+    // To answer it the engine has to lay out the whole page; one that is hidden it would not paint. A world
+    // of its own keeps the scripts of the page out of the question.
+    page_->runJavaScript("document.documentElement && document.documentElement.scrollHeight",
+                         QWebEngineScript::ApplicationWorld,
+                         [this, pane = QPointer<QTimer>(&settle_), number = load_->number](const QVariant&) {
+                             if (pane && load_ && load_->number == number) Finished(Done);
+                         });
 }
 
 void QtPane::Refused(const Text& address) {
@@ -113,6 +134,7 @@ void QtPane::Refused(const Text& address) {
 }
 
 void QtPane::UrlChanged() {
+    if (load_ && load_->loaded) Finished(Done);
     shown_ = page_->url();
     if (!load_) return MovedInsidePage();
     Commit();
@@ -131,6 +153,7 @@ void QtPane::MovedInsidePage() {
 void QtPane::Commit() {
     if (!load_ || load_->committed) return;
     load_->committed = true;
+    if (!load_->halting) deaf_.stop();
     if (load_->way != Way::Plain) return;
     const Text url = Told(shown_);
     Tell([&](BrowserSink& sink) { sink.NavigateComplete2(url, true); });
@@ -150,7 +173,7 @@ void QtPane::Hovered(const QString& url) {
 
 void QtPane::Finished(const Text& status) {
     if (!load_) return;
-    shown_ = page_->url();
+    if (!load_->loaded) shown_ = page_->url();
     Commit();
     const Load load = *load_;
     const Text url = Told(shown_);

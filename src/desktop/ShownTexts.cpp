@@ -72,7 +72,7 @@ protected:
         QTextDocument& document = *edit_.document();
         if (revision_ == document.revision() && text_ == box_.text) return;
         text_ = box_.text;
-        const bool changed = ShowInDocument(document, LineText(text_).Raw());
+        const bool changed = ShowInDocument(document, ShownLines(text_, QChar::ParagraphSeparator));
         revision_ = document.revision();
         if (!changed || edit_.hasFocus()) return;
         // Another text was put there, which starts at its start and has no steps to undo.

@@ -1,14 +1,12 @@
 #include "html/Elements.h"
 
+#include "html/RepeatBound.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
 
 namespace ostrel::html {
 
 namespace {
-
-// More than any page holds; what is asked beyond it fails like memory that has run out.
-constexpr Long MostSpaces = 10'000'000;
 
 Text Wrapped(TextView start, TextView content, TextView end) {
     Text result;
@@ -94,7 +92,8 @@ Text CreateParagraphFixed(TextView font, TextView paragraph) {
 Text CreateSpaces(Long count) {
     constexpr TextView space = "&nbsp;";
     Text result;
-    if (count <= 0 || count > MostSpaces) return result;
+    if (count <= 0) return result;
+    count = BoundedCount(count, 0, space.size());
     result.reserve(static_cast<std::size_t>(count) * space.size());
     for (Long i = 0; i < count; ++i) result.append(space);
     return result;

@@ -1,6 +1,9 @@
 #include "html/TableBuilder.h"
 
+#include <algorithm>
+
 #include "html/Elements.h"
+#include "html/RepeatBound.h"
 #include "html/TableWriter.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
@@ -9,12 +12,26 @@ namespace ostrel::html {
 
 namespace {
 
-// Counts far beyond the arrays would only fill memory with blank rows.
-constexpr long long MostCellsOutside = 10'000'000;
 // Attributes that differ from cell to cell need not be kept for the whole table.
 constexpr std::size_t MostTagsKept = 4096;
 
 TextView ViewOf(const Text* text) { return text ? TextView(*text) : TextView(); }
+
+std::size_t SizeOfBlank(const TableLook& look, const Text& content, Long spaces) {
+    return CreateTableCell({}, look.font, content.empty() ? CreateSpaces(spaces) : content).size();
+}
+
+/// What a column without content adds to a table. It shows in the first row; later it only lengthens a run.
+std::size_t SizeOfBlankColumn(const TableLook& look) {
+    return SizeOfBlank(look, look.emptyCellHTML, 1) +
+           (look.spaceColumns ? SizeOfBlank(look, look.spaceCellHTML, 2) : 0);
+}
+
+/// The most that a row without content adds to a table.
+std::size_t SizeOfBlankRow(const TableLook& look) {
+    constexpr TextView frame = "<TD COLSPAN = \"2147483647\">\r\n</TR>\r\n\r\n";
+    return CreateTableRowStart(look.rowTags).size() + SizeOfBlank(look, look.emptyCellHTML, 1) + frame.size();
+}
 
 } // namespace
 
@@ -46,20 +63,23 @@ void CreateTableAddBlanks(Text& row, Long& blanks) {
 
 Text CreateTable(Context& context, Long rows, Long columns, const Grid<Text>& cells, const Grid<Text>& tags,
                  const TableLook& look) {
+    if (rows == 0 || columns == 0) return {};
     const Long gridRows = std::max(cells.Rows(), tags.Rows());
     const Long gridColumns = std::max(cells.Columns(), tags.Columns());
-    if (static_cast<long long>(rows) * columns > MostCellsOutside) {
-        rows = std::min(rows, gridRows);
-        columns = std::min(columns, gridColumns);
-    }
-    if (rows == 0 || columns == 0) return {};
+    rows = BoundedCount(rows, gridRows, SizeOfBlankRow(look));
+    columns = BoundedCount(columns, gridColumns, SizeOfBlankColumn(look));
     LargeBuffer output;
     TableWriter table(context, output, columns, look);
     TagTable distinct;
-    std::vector<CellView> row(static_cast<std::size_t>(std::max(columns, Long{0})));
+    // What lies outside the grids is empty, and the writer takes missing cells for that.
+    std::vector<CellView> row(static_cast<std::size_t>(std::clamp(columns, Long{0}, gridColumns)));
     for (Long r = 1; r <= rows; ++r) {
+        if (r > gridRows) {
+            table.Row({});
+            continue;
+        }
         if (distinct.Size() > MostTagsKept) distinct.Clear();
-        for (Long c = 1; c <= columns; ++c) {
+        for (Long c = 1; c <= static_cast<Long>(row.size()); ++c) {
             CellView& cell = row[static_cast<std::size_t>(c - 1)];
             cell.value = ViewOf(cells.Find(r, c));
             cell.tags = distinct.Intern(ViewOf(tags.Find(r, c)));

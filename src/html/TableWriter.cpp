@@ -15,6 +15,8 @@ constexpr TextView CellEnd = "</TD>";
 constexpr TextView CellLineEnd = "</TD>\r\n";
 constexpr TextView FontEnd = "</FONT>";
 constexpr TextView RowEnd = "</TR>\r\n\r\n";
+constexpr TextView BodyStart = "<TBODY>\r\n\r\n";
+constexpr TextView BodyEnd = "</TBODY>\r\n\r\n";
 constexpr TextView DefaultTableTags = R"(CELLSPACING="0" CELLPADDING="0" BORDER="0")";
 constexpr int RowsBetweenYields = 50;
 
@@ -48,7 +50,7 @@ TableWriter::TableWriter(const Context& context, LargeBuffer& output, Long colum
       rowStart_(CreateTableRowStart(look.rowTags).append(LineEnd)),
       spacerContent_(InFont(look.spaceCellHTML.empty() ? CreateSpaces(2) : look.spaceCellHTML)),
       blankContent_(InFont(look.emptyCellHTML.empty() ? CreateSpaces(1) : look.emptyCellHTML)),
-      columnUsed_(columns_), spacerUsed_(columns_), rowsToYield_(RowsBetweenYields) {
+      columnUsed_(columns_), spacerUsed_(columns_), usedFrom_(columns_), rowsToYield_(RowsBetweenYields) {
     output_.Append(CreateTableStart(look.tableTags.empty() ? DefaultTableTags : TextView(look.tableTags)));
     output_.Append(LineGap);
     emptyRow_ = "<TD COLSPAN = \"";
@@ -57,7 +59,31 @@ TableWriter::TableWriter(const Context& context, LargeBuffer& output, Long colum
     emptyRow_.append("\">").append(look.rowTags.empty() ? TextView(blankContent_) : CellEnd).append(LineEnd);
 }
 
+void TableWriter::BeginGroup(TextView start, TextView end) {
+    EndGroup();
+    output_.Append(start);
+    groupEnd_ = end;
+}
+
+void TableWriter::EndGroup() {
+    output_.Append(groupEnd_);
+    groupEnd_ = {};
+    rowsInGroup_ = 0;
+}
+
+void TableWriter::BeginHeader() {
+    if (groupRows_ <= 0) return;
+    // A browser moves THEAD in front of all rows, so what stands above the header must be in it or not be.
+    if (anyRow_)
+        BeginGroup("<TBODY CLASS=\"header\">\r\n\r\n", BodyEnd);
+    else
+        BeginGroup("<THEAD>\r\n\r\n", "</THEAD>\r\n\r\n");
+}
+
 void TableWriter::Row(std::span<const CellView> cells) {
+    if (groupRows_ > 0 && (groupEnd_.empty() || rowsInGroup_ >= groupRows_)) BeginGroup(BodyStart, BodyEnd);
+    ++rowsInGroup_;
+    anyRow_ = true;
     output_.Append(rowStart_);
     cells = cells.first(std::min(cells.size(), columns_));
     // One column is never merged into a blank row.
@@ -73,7 +99,10 @@ void TableWriter::Row(std::span<const CellView> cells) {
     context_.GiveWay();
 }
 
-void TableWriter::End() { output_.Append("</TABLE>"); }
+void TableWriter::End() {
+    EndGroup();
+    output_.Append("</TABLE>");
+}
 
 void TableWriter::ValueRow(std::span<const CellView> cells) {
     const CellView none;
@@ -81,7 +110,9 @@ void TableWriter::ValueRow(std::span<const CellView> cells) {
         return column < cells.size() ? cells[column] : none;
     };
     Long blanks = 0;
-    for (std::size_t c = 0; c < columns_;) {
+    std::size_t c = 0;
+    std::size_t behind = 0; // the first column behind the cells that this row comes to
+    for (const std::size_t end = std::max(cells.size(), usedFrom_); c < end;) {
         const CellView& cell = cellAt(c);
         const std::size_t span = SpanOf(cell.tags);
         if (!cell.Empty()) {
@@ -118,8 +149,11 @@ void TableWriter::ValueRow(std::span<const CellView> cells) {
                 ++blanks;
             }
         }
+        if (c < cells.size()) behind = next;
         c = next;
     }
+    blanks += BlanksFrom(c);
+    usedFrom_ = std::min(usedFrom_, behind);
     FlushBlanks(blanks);
 }
 
@@ -136,14 +170,16 @@ void TableWriter::TagRow(std::span<const CellView> cells) {
         output_.Append(start);
         output_.Append(CellEnd);
     };
-    for (std::size_t c = 0; c < columns_;) {
-        const TagInfo* tags = c < cells.size() ? cells[c].tags : nullptr;
+    std::size_t c = 0;
+    while (c < cells.size()) {
+        const TagInfo* tags = cells[c].tags;
         write(tags ? TextView(tags->cellStart) : TextView());
         c += SpanOf(tags);
         if (!spaceColumns_ || c >= columns_) continue;
         const TagInfo* behind = c < cells.size() ? cells[c].tags : nullptr;
         write(behind ? TextView(behind->spacer) : TextView());
     }
+    blanks += BlanksFrom(c);
     FlushBlanks(blanks);
 }
 
@@ -173,14 +209,19 @@ bool TableWriter::HasFont(const CellView& cell) const {
 void TableWriter::FlushBlanks(Long& blanks) {
     if (blanks == 0) return;
     // Between neighbours that are both filled there is one spacer at most.
-    if (blanks == 1) {
-        blanks = 0;
-        output_.Append("<TD></TD>\r\n");
+    if (blanks == 1 || keepBlankCells_) {
+        for (; blanks > 0; --blanks) output_.Append("<TD></TD>\r\n");
         return;
     }
     Text run;
     CreateTableAddBlanks(run, blanks);
     output_.Append(run);
+}
+
+Long TableWriter::BlanksFrom(std::size_t column) const {
+    if (column >= columns_) return 0;
+    const std::size_t count = columns_ - column;
+    return static_cast<Long>(spaceColumns_ ? 2 * count - 1 : count);
 }
 
 std::size_t TableWriter::SpanOf(const TagInfo* tags) const {

@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 
+#include "platform/WakeSource.h"
 #include "text/Text.h"
 
 namespace ostrel {
@@ -37,6 +39,10 @@ public:
     virtual void Yield() = 0;
     /// Waits that long while everything that comes due runs.
     virtual void Wait(Long milliseconds) = 0;
+    /// Sleeps until something is due, which then runs, or a source is ready, but no longer than `longest`
+    /// milliseconds. It may end earlier with nothing done, so it belongs in a loop that looks at what it
+    /// waits for. Returns whether a source is ready, which sets its `ready`.
+    virtual bool Sleep(Long longest, std::span<WakeSource> sources) = 0;
 };
 
 } // namespace ostrel

@@ -5,11 +5,16 @@
 
 namespace ostrel {
 
-/// Flags that a user's Stop sets and long loops read after each yield.
+/// Flags that end long loops, which read them after each yield. What the user pressed is cleared whenever a
+/// loop begins; what the host wants stays until the host clears it.
 struct RunFlags {
     Flag StopPressed;
     Flag StopRequested;
-    bool Stopped() const { return StopPressed || StopRequested; }
+    Flag HostStop;
+    /// Whether reports and CSV files are to end.
+    bool Pressed() const { return StopPressed || HostStop; }
+    /// Whether sorts are to end.
+    bool Stopped() const { return Pressed() || StopRequested; }
 };
 
 /// What a service may reach besides its arguments. The control owns it; services borrow it.

@@ -106,7 +106,7 @@ bool WriteCsvFile(Context& context, const Text& title, const Text& path, const A
         room.Append(LineEnd);
         if (record % RecordsPerTurn != 0) continue;
         context.GiveWay();
-        if (context.run.StopPressed) {
+        if (context.run.Pressed()) {
             error = "Write Interrupted.";
             return false;
         }

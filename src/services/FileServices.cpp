@@ -86,14 +86,11 @@ bool DirectoryMake(Files& files, const Text& directory, Text& error) {
     Text path = directory;
     std::replace(path.begin(), path.end(), '/', '\\');
     path = RemoveLastBackslash(TrimBlanks(path));
-    if (path.empty()) {
-        error = ErrorMessageNotDefined("Directory");
-        return false;
-    }
     if (DirectoryExists(files, path)) return true;
 
     const Text old = files.CurrentDirectory();
-    for (std::size_t end = path.find('\\'), first = true;; end = path.find('\\', end + 1), first = false) {
+    for (std::size_t end = path.find('\\'), first = true; !path.empty();
+         end = path.find('\\', end + 1), first = false) {
         const Text part = path.substr(0, end);
         if (first) {
             if (!DirectoryExists(files, part + "\\")) {
@@ -226,7 +223,7 @@ bool WriteFileFull(Context& context, const Text& title, const Text& path, const 
             error = "File [" + file + "] exists.";
             return false;
         }
-        if (options.createBackup) backup = FileExtensionChange(file, "bak");
+        if (options.createBackup) backup = directory + FileNameOnly(file) + ".bak";
         if (backup == file) {
             // A backup file has no backup name of its own, and is not to be lost for want of one.
             error = "New File [" + backup + "] exists.";

@@ -244,17 +244,6 @@ Text NormaliseSearchText(TextView text) {
     return result;
 }
 
-Long SearchCount(TextView text, TextView phrase, bool matchCase, bool wholeWords) {
-    Text wanted = NormaliseSearchText(phrase);
-    if (wanted.empty()) return 0;
-    Text searched = NormaliseSearchText(text);
-    if (wholeWords) {
-        wanted = " " + wanted + " ";
-        searched = " " + searched + " ";
-    }
-    return static_cast<Long>(matchCase ? CountExact(searched, wanted) : CountText(searched, wanted));
-}
-
 Double CellNumericValue(TextView html) {
     Text text;
     StripTagsInto(html, text);

@@ -21,7 +21,6 @@ Text RemoveDoubleTag(TextView html, TextView tag, TextView subTag, bool trimBlan
 
 /// CR becomes a blank, LF goes, double blanks collapse.
 Text NormaliseSearchText(TextView text);
-Long SearchCount(TextView text, TextView phrase, bool matchCase, bool wholeWords);
 
 /// The leading number of the stripped text; 0 where there is none.
 Double CellNumericValue(TextView html);

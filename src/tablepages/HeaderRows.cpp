@@ -30,9 +30,10 @@ std::size_t AddHeaderRows(GridRows& rows, const ReportFrame& frame, const Header
         const Long column = columns.shown[place];
         GridCell& cell = *row.Find(static_cast<Long>(place) + 1);
         if (column == 0) {
-            const Text text = options.PageTableRecordNumberSort
-                                  ? RecordHeader(frame, to.recordPath, options.PageTableOrderUpTT, to.anchor)
-                                  : Text();
+            const Text text =
+                options.PageTableRecordNumberSort
+                    ? RecordHeader(frame, to.recordPath, options.PageTableOrderUpTT, to.anchor, to.recordMark)
+                    : Text();
             frame.rules.SetCell(text, cell.text, cell.tag, right);
         } else {
             if (variants) {

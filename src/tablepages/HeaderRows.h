@@ -13,8 +13,9 @@ struct HeaderVariants {
 };
 
 struct HeaderLinksTo {
-    TextView recordPath; ///< the page that the record number header leads to
-    TextView anchor;     ///< the anchor on each page that a header leads to
+    TextView recordPath;   ///< the page that the record number header leads to
+    TextView anchor;       ///< the anchor on each page that a header leads to
+    TextView recordMark{}; ///< HTML behind the name of the record numbers
 };
 
 /// Adds the header with its spacers and gives the index of the header row among `rows`. `variants` is null

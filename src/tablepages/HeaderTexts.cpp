@@ -4,6 +4,7 @@
 #include "html/PageParts.h"
 #include "services/Paths.h"
 #include "services/TagText.h"
+#include "tablepages/PageNames.h"
 #include "text/CodePage.h"
 #include "text/Enumerations.h"
 #include "text/NumberText.h"
@@ -22,40 +23,31 @@ Text Emphasised(TextView text, bool bold, bool italic) {
     return result;
 }
 
-Text ColumnWord(const ReportFrame& frame, Long column) {
-    Text word;
-    if (frame.options.PageTableOrderUseNames) {
-        word = ReplaceAll(frame.Name(column), "<BR>", "");
-        std::erase(word, '_');
-        std::erase(word, ' ');
-    }
-    return word.empty() ? FromLong(column) : word;
-}
-
 } // namespace
 
 Text SortFileName(const ReportFrame& frame, TextView filePath, Long column, TextView suffix,
                   TextView anchor) {
-    Text insert = "_";
-    insert.append(ColumnWord(frame, column)).append(suffix).append(".");
-    Text name = ReplaceAll(services::FileName(filePath), ".", insert);
+    Text name = SortPageName(frame.options, services::FileName(filePath), column, frame.Name(column), suffix);
     if (!anchor.empty()) name.append("#").append(anchor);
     return name;
 }
 
-Text RecordHeader(const ReportFrame& frame, TextView filePath, TextView toolTip, TextView anchor) {
+Text RecordHeader(const ReportFrame& frame, TextView filePath, TextView toolTip, TextView anchor,
+                  TextView mark) {
     const TableOptions& options = frame.options;
     if (options.PageTableHeaderRNName.empty()) return {};
     Text target = services::FileName(filePath);
     if (!anchor.empty()) target.append("#").append(anchor);
     const Text name =
-        Emphasised(options.PageTableHeaderRNName, options.PageTableHeaderBold, options.PageTableHeaderItalic);
+        Emphasised(options.PageTableHeaderRNName, options.PageTableHeaderBold, options.PageTableHeaderItalic)
+            .append(mark);
     return html::PageFontStartTag(frame.scope.page, owhFontTableHeader) + options.PageTableAddLeft +
            html::CreateLinkTitle(frame.scope.page, target, name, toolTip, false, false, false) +
            options.PageTableAddRight + html::PageFontEndTag(frame.scope.page, owhFontTableHeader);
 }
 
-Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool up, TextView anchor) {
+Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool up, TextView anchor,
+                TextView mark) {
     const TableOptions& options = frame.options;
     const TextView name = frame.Name(column);
     const std::size_t end = std::min(FindText(name, "</P>"), name.size());
@@ -67,6 +59,7 @@ Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool u
         const std::size_t cut = FindText(head, "<BR>", start);
         Text line = Emphasised(head.substr(start, cut == NotFound ? NotFound : cut - start),
                                options.PageTableHeaderBold, options.PageTableHeaderItalic);
+        if (cut == NotFound) line += mark;
         if (linked)
             line = html::CreateLinkTitle(
                 frame.scope.page, SortFileName(frame, filePath, column, up ? "_U" : "_D", anchor), line,

@@ -10,11 +10,13 @@ namespace ostrel::tablepages {
 /// one. `suffix` is "_U" or "_D".
 Text SortFileName(const ReportFrame& frame, TextView filePath, Long column, TextView suffix, TextView anchor);
 
-/// The header text of the record numbers; empty without a name for them.
-Text RecordHeader(const ReportFrame& frame, TextView filePath, TextView toolTip, TextView anchor);
+/// The header text of the record numbers; empty without a name for them. `mark` is HTML behind the name.
+Text RecordHeader(const ReportFrame& frame, TextView filePath, TextView toolTip, TextView anchor,
+                  TextView mark = {});
 
-/// The header text of a column. `up` links to the page sorted up, else down.
-Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool up, TextView anchor);
+/// The header text of a column. `up` links to the page sorted up, else down. `mark` is HTML behind the name.
+Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool up, TextView anchor,
+                TextView mark = {});
 
 /// A column's name as plain text on one line.
 Text PlainName(const ReportFrame& frame, Long column);

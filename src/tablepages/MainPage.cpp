@@ -2,6 +2,7 @@
 #include "services/Paths.h"
 #include "services/TagText.h"
 #include "tablepages/HeaderLinkRows.h"
+#include "tablepages/PageNames.h"
 #include "tablepages/ReportRun.h"
 #include "tablepages/SpaceRows.h"
 #include "tablepages/TitleBlock.h"
@@ -42,10 +43,11 @@ void MainPage::AddLinks(GridRows& rows, Long position) {
 }
 
 void MainPage::AddHeader(GridRows& rows, bool repeated) {
-    const Text recordPath = reversed_ ? frame_.filePath : DownPagePath(frame_);
+    const Text recordPath = reversed_ ? frame_.filePath : DownPagePath(frame_.filePath);
     const Text anchor = repeated ? frame_.scope.page.page.PageAnchorBottom : Text();
-    const std::size_t row =
-        AddHeaderRows(rows, frame_, {recordPath, anchor}, repeated ? &main_.repeatedHeader : &main_.header);
+    const std::size_t row = AddHeaderRows(
+        rows, frame_, {recordPath, anchor, reversed_ ? TextView(frame_.options.PageTableOrderDownMark) : ""},
+        repeated ? &main_.repeatedHeader : &main_.header);
     if (!repeated) main_.headerRow = row;
 }
 
@@ -86,7 +88,7 @@ bool MainPage::AddRecords(Text& error) {
         if (tests) run_.painter->Texts().TestLinks(source, starts);
         if (sums) AddToTotals(source);
         if (main_.grid.Breaks() && main_.grid.BreakColumn(source) > 0)
-            main_.AddBreak(run_.totals.Show(frame_, TotalKind::Break));
+            main_.AddBreak(run_.totals.Show(frame_, TotalKind::Break), source);
         if (!starts || records % RecordsBetweenEvents != 0) continue;
         html::TellProgress(run_.Scope(), "Formatting", records);
         if (Interrupted(frame_, error)) return false;
@@ -118,7 +120,7 @@ void MainPage::Write() {
     run_.page.Build(run_.Scope(), frame_.options, frame_.columns.Width(), empty,
                     [&](html::TableWriter& table) {
                         RecordPainter& painter = *run_.painter;
-                        painter.Paint(table, main_.top);
+                        painter.PaintTop(table, main_.top);
                         Long record = 0;
                         for (Long place = 0; place < rows; ++place) {
                             if (main_.IsText(place)) {
@@ -134,8 +136,6 @@ void MainPage::Write() {
 
 } // namespace
 
-Text DownPagePath(const ReportFrame& frame) { return ReplaceAll(frame.filePath, ".htm", "_D.htm"); }
-
 bool SavePage(const ReportRun& run, const Text& path, Text& error) {
     Text saveError;
     if (html::HelpPageSaveInternal(run.Scope(), path, saveError)) return true;
@@ -146,7 +146,7 @@ bool SavePage(const ReportRun& run, const Text& path, Text& error) {
 bool MakeMainPage(ReportRun& run, bool reversed, Text& error) {
     ReportFrame& frame = run.frame;
     const html::PageScope& scope = run.Scope();
-    const Text path = reversed ? DownPagePath(frame) : frame.filePath;
+    const Text path = reversed ? DownPagePath(frame.filePath) : frame.filePath;
     scope.page.CurrentCreatePage = path;
     html::PageInitialise(scope);
     frame.align = AlignTags(frame.options);

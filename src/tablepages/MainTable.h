@@ -23,8 +23,8 @@ public:
     /// The rows behind the last data row.
     GridRows foot;
 
-    /// Adds a block of break totals behind the data row that was added last.
-    void AddBreak(std::vector<Text> texts);
+    /// Adds a block of break totals behind the data row that was added last, which shows row `source`.
+    void AddBreak(std::vector<Text> texts, Long source);
     /// The row at a place of the grid that is no data row: that of a total block, or, with a place below 0,
     /// one in front of the first data row.
     GridRow RowAt(Long place) const;
@@ -32,10 +32,16 @@ public:
     bool IsText(Long place) const { return place < 0 || grid.BlockAt(place) >= 0; }
 
 private:
+    Text BreakName(Long source) const;
+
     const ReportFrame& frame_;
     TotalBlock breakBlock_;
     GridRows above_, below_;
-    std::vector<std::vector<Text>> breakTexts_;
+    struct Break {
+        std::vector<Text> texts;
+        Text name; ///< the values that its rows share
+    };
+    std::vector<Break> breaks_;
 };
 
 } // namespace ostrel::tablepages

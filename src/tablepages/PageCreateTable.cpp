@@ -6,6 +6,7 @@
 #include "services/Paths.h"
 #include "services/TagText.h"
 #include "tablepages/HeaderTexts.h"
+#include "tablepages/PageNames.h"
 #include "tablepages/ReportRun.h"
 #include "tablepages/SeparatePages.h"
 #include "tablepages/SortPages.h"
@@ -31,23 +32,41 @@ bool Check(ReportFrame& frame, Text& error) {
     return true;
 }
 
+/// The columns of the CSV file.
+std::vector<Long> CsvColumns(ReportFrame& frame) {
+    const bool shownOnly = frame.options.PageTableExcelShownOnly;
+    if (shownOnly) frame.columns.Settle(frame.input, frame.options, frame.rules);
+    std::vector<Long> columns;
+    for (Long column = 1; column <= frame.input.columns; ++column)
+        if (!shownOnly || frame.columns.Shows(column)) columns.push_back(column);
+    return columns;
+}
+
 bool WriteCsv(ReportRun& run, Text& error) {
     ReportFrame& frame = run.frame;
     const html::PageScope& page = frame.scope.page;
     const TableInput& input = frame.input;
     html::TellProgress(page, "Saving to Excel", 0);
-    frame.csvPath = services::FileExtensionChange(frame.filePath, ".csv");
-    Array<Text> names(input.columns);
-    for (Long column = 1; column <= input.columns; ++column) names.Put(column, PlainName(frame, column));
+    frame.csvPath = CsvPath(frame.filePath);
+    const std::vector<Long> columns = CsvColumns(frame);
+    const auto fields = static_cast<Long>(columns.size());
+    if (fields == 0) {
+        error = "No Data in Table";
+        return false;
+    }
+    Array<Text> names(fields);
+    for (Long field = 1; field <= fields; ++field)
+        names.Put(field, PlainName(frame, columns[static_cast<std::size_t>(field - 1)]));
     Text plain;
-    const auto cell = [&](Long row, Long column) -> TextView {
+    const auto cell = [&](Long row, Long field) -> TextView {
+        const Long column = columns[static_cast<std::size_t>(field - 1)];
         if (input.cells.HasPlain()) return input.cells.Plain(row, column);
         services::StripTagsInto(input.cells.Html(row, column), plain);
         return plain;
     };
     Text writeError;
     if (services::WriteCsvFile(page.context, page.service.ProgramName, frame.csvPath, names, cell, input.rows,
-                               input.columns, writeError, ",", false, run.page.Room()))
+                               fields, writeError, ",", false, run.page.Room()))
         return true;
     error = writeError;
     return false;
@@ -71,8 +90,7 @@ bool MakePages(ReportRun& run, Text& error) {
     run.createAll = options.PageTableCreateAll;
     html::TellProgress(page, "Starting", 0);
 
-    const bool downPage = !frame.filePath.empty() && options.PageTableRecordNumber &&
-                          !options.PageTableHeaderRNName.empty() && options.PageTableRecordNumberSort;
+    const bool downPage = !frame.filePath.empty() && HasDownPage(options);
     if (downPage && !MakeMainPage(run, true, error)) return false;
     if (!MakeMainPage(run, false, error)) return false;
     if (frame.filePath.empty()) return true;

@@ -4,6 +4,12 @@
 
 namespace ostrel::tablepages {
 
+bool RecordVariant::Wanted(const TableOptions& options) const {
+    return SortsNames()    ? options.PageTableSeparateSortName
+           : SortsValues() ? options.PageTableSeparateSortValue
+                           : Flag(true);
+}
+
 RecordNames::RecordNames(TextView mainName) {
     for (std::size_t start = 0;;) {
         const std::size_t point = mainName.find('.', start);

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "text/Text.h"
+#include "tablepages/TableOptions.h"
 
 namespace ostrel::tablepages {
 
@@ -18,6 +18,8 @@ struct RecordVariant {
 
     bool SortsNames() const { return sortBy == "Field Name"; }
     bool SortsValues() const { return sortBy == "Field Value"; }
+    /// Whether there are pages in this order.
+    bool Wanted(const TableOptions& options) const;
 };
 
 inline constexpr std::array<RecordVariant, 5> RecordVariants{{

@@ -106,7 +106,7 @@ void RecordPage::WriteFields(html::TableWriter& table, const Array<Text>& values
     for (const Long column : pointers) {
         const Text* name = nameCells_.Find(column);
         const Text* value = values.Find(column);
-        if (!name || !value) continue;
+        if (!name || !value || !Holds(column)) continue;
         const bool blank = rules.Blank(*value);
         if (blank && options_.PageTableIgnoreBlankColumns) continue;
         if (fields > 0) between_.Write(table);

@@ -11,6 +11,11 @@ class RecordPage {
 public:
     RecordPage(ReportRun& run, const Array<Text>& names);
 
+    /// Whether the page has a field of that column.
+    bool Holds(Long column) const {
+        return !options_.PageTableSeparateShownOnly || run_.frame.columns.Shows(column);
+    }
+
     /// Sets the second part of the page: the fields in the order of the pointers. The headers of the two
     /// columns are links where there is an address.
     void Build(TextView nameAddress, TextView valueAddress, const Array<Text>& values,

@@ -122,6 +122,17 @@ void RecordPainter::FillMixedRow(Long place, Long first, Long record) {
     }
 }
 
+void RecordPainter::PaintTop(html::TableWriter& table, const GridRows& rows) {
+    table.GroupRows(frame_.options.PageTableRowGroup);
+    table.KeepBlankCells(frame_.options.PageTableBlankCells);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const bool header = main_.headerRow == i;
+        if (header) table.BeginHeader();
+        Paint(table, rows[i]);
+        if (header) table.EndHeader();
+    }
+}
+
 void RecordPainter::Paint(html::TableWriter& table, Long place, Long first, Long record) {
     if (passing_.Size() > MostTagsKept) {
         for (Column& column : columns_) column.given = {};

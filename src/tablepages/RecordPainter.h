@@ -19,6 +19,8 @@ public:
     /// Writes the row at a place of the main table; `record` decides its colours. The columns that stay the
     /// same within a record are taken from the place `first`.
     void Paint(html::TableWriter& table, Long place, Long first, Long record);
+    /// Writes the rows in front of the first data row, and settles how the rows of the page are grouped.
+    void PaintTop(html::TableWriter& table, const GridRows& rows);
     template <class Rows>
     void Paint(html::TableWriter& table, const Rows& rows) {
         writer_.Write(table, rows);

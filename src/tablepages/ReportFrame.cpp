@@ -10,7 +10,7 @@ const Text& ReportFrame::Name(Long column) const {
 
 bool Interrupted(const ReportFrame& frame, Text& error) {
     frame.Around().GiveWay();
-    if (!frame.Around().run.StopPressed) return false;
+    if (!frame.Around().run.Pressed()) return false;
     error = "Interrupted by User";
     return true;
 }

@@ -26,9 +26,6 @@ struct ReportRun {
 /// reverse.
 bool MakeMainPage(ReportRun& run, bool reversed, Text& error);
 
-/// The down page of a main page.
-Text DownPagePath(const ReportFrame& frame);
-
 /// Saves the three parts under the path of the current page and tells of it. A False ends the run.
 bool SavePage(const ReportRun& run, const Text& path, Text& error);
 

@@ -40,7 +40,6 @@ private:
     void Offer();
     Long HeaderField() const;
     void TakeRecord(Long record);
-    bool Wanted(const RecordVariant& variant) const;
     bool MakeVariant(Long record, RecordVariant::Number number, Text& error);
     void TellOldPage(const Text& path) const;
 
@@ -85,7 +84,7 @@ void SeparatePages::Offer() {
 Long SeparatePages::HeaderField() const {
     const Text wanted = WithoutBlanks(options_.PageTableSeparateHeaderField);
     for (Long column = 1; column <= frame_.input.columns; ++column)
-        if (EqualText(WithoutBlanks(names_.Get(column)), wanted)) return column;
+        if (table_->Holds(column) && EqualText(WithoutBlanks(names_.Get(column)), wanted)) return column;
     return 0;
 }
 
@@ -96,12 +95,6 @@ void SeparatePages::TakeRecord(Long record) {
     separate.fields = frame_.input.columns;
     separate.names = names_;
     separate.values = values_;
-}
-
-bool SeparatePages::Wanted(const RecordVariant& variant) const {
-    return variant.SortsNames()    ? options_.PageTableSeparateSortName
-           : variant.SortsValues() ? options_.PageTableSeparateSortValue
-                                   : Flag(true);
 }
 
 void SeparatePages::TellOldPage(const Text& path) const {
@@ -183,9 +176,9 @@ bool SeparatePages::MakeVariant(Long record, RecordVariant::Number number, Text&
 bool SeparatePages::Make(Text& error) {
     html::TellProgress(page_, "Starting Separate Pages", 0);
     Offer();
+    table_.emplace(run_, names_);
     headerField_ = HeaderField();
     values_.Resize(frame_.input.columns);
-    table_.emplace(run_, names_);
     for (Long record = 1; record <= frame_.input.rows; ++record) {
         TakeRecord(record);
         bool createAll = options_.PageTableCreateAllSeparate;
@@ -193,7 +186,7 @@ bool SeparatePages::Make(Text& error) {
             const auto number = static_cast<RecordVariant::Number>(i);
             const Text path = paths_.Of(record, number);
             page_.page.CurrentCreatePage = path;
-            if (!Wanted(RecordVariants[i])) continue;
+            if (!RecordVariants[i].Wanted(options_)) continue;
             if (i > 0 && !createAll && services::FileExists(*page_.context.platform.files, path)) {
                 TellOldPage(path);
                 continue;
@@ -205,7 +198,7 @@ bool SeparatePages::Make(Text& error) {
         }
         if (record % RecordsBetweenEvents != 0) continue;
         html::TellProgress(page_, "Saving Separate Pages", record);
-        if (page_.context.run.StopPressed) {
+        if (page_.context.run.Pressed()) {
             error = "Interrupted by User";
             return false;
         }

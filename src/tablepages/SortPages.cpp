@@ -1,6 +1,7 @@
 #include "tablepages/SortPages.h"
 
 #include <limits>
+#include <utility>
 
 #include "html/Elements.h"
 #include "html/PageParts.h"
@@ -9,6 +10,7 @@
 #include "services/TagText.h"
 #include "tablepages/HeaderLinkRows.h"
 #include "tablepages/HeaderTexts.h"
+#include "tablepages/PageNames.h"
 #include "tablepages/SortOrder.h"
 #include "tablepages/SpaceRows.h"
 #include "tablepages/TitleBlock.h"
@@ -35,7 +37,7 @@ public:
 
 private:
     void PutRecordHeader(bool up);
-    void PutHeader(GridRow& row, const HeaderVariants& variants, bool up) const;
+    void PutHeader(GridRow& row, const HeaderVariants& variants, bool up, TextView anchor) const;
     void TakeTop();
     void TellUnchanged(const Text& path) const;
 
@@ -46,6 +48,8 @@ private:
     void Write();
     void WriteRows(html::TableWriter& table);
 
+    /// The value of the sort column in a row.
+    TextView GroupName(Long place, Long first) const;
     void Expose();
     CellTexts::Pieces CellText(Long place, Long first, Long gridColumn);
 
@@ -62,6 +66,9 @@ private:
     /// The sub-totals of the page in hand: in front of which position each stands, and its texts.
     std::vector<Long> groupStarts_;
     std::vector<Text> groupTexts_;
+    /// The value that the rows in front of each of them share, as HTML, and that of the last rows.
+    std::vector<TextView> groupNames_;
+    TextView lastName_;
 };
 
 // The header of the record numbers leads back to the main page. It is put into the main table at either
@@ -77,9 +84,16 @@ void SortPages::PutRecordHeader(bool up) {
 }
 
 /// A sorted page links to the one sorted the other way.
-void SortPages::PutHeader(GridRow& row, const HeaderVariants& variants, bool up) const {
+void SortPages::PutHeader(GridRow& row, const HeaderVariants& variants, bool up, TextView anchor) const {
     const Text* text = HeaderVariants::Find(up ? variants.down : variants.up, column_.grid);
-    if (GridCell* cell = row.Find(column_.grid); cell && text) cell->text = *text;
+    GridCell* const cell = row.Find(column_.grid);
+    if (!cell || !text) return;
+    cell->text = *text;
+    const TextView mark = up ? frame_.options.PageTableOrderUpMark : frame_.options.PageTableOrderDownMark;
+    if (mark.empty()) return;
+    Text tag = cell->tag;
+    frame_.rules.SetCell(HeaderText(frame_, column_.source, frame_.filePath, !up, anchor, mark), cell->text,
+                         tag, {});
 }
 
 void SortPages::TakeTop() {
@@ -116,6 +130,12 @@ CellTexts::Pieces SortPages::CellText(Long place, Long first, Long gridColumn) {
     return painter_.CellText(frame_.options.PageTableColumnSubRecord.Get(source) ? place : first, gridColumn);
 }
 
+TextView SortPages::GroupName(Long place, Long first) const {
+    const Long source = column_.source;
+    const bool ofRow = frame_.options.PageTableColumnSubRecord.Get(source);
+    return frame_.input.cells.Html(main_.grid.At(ofRow ? place : first).source, source);
+}
+
 void SortPages::AddToTotals(Long place, Long first) {
     const bool page = !column_.ofRow || main_.grid.At(place).sub <= 1;
     for (Totals::Column& total : run_.totals.Columns()) {
@@ -133,6 +153,8 @@ void SortPages::AddUp() {
     run_.totals.Clear(true);
     groupStarts_.clear();
     groupTexts_.clear();
+    groupNames_.clear();
+    lastName_ = {};
     const bool sums = (frame_.options.PageTableTotal || column_.subTotals) && !run_.totals.Columns().empty();
     if (!sums && !column_.subTotals) return;
 
@@ -146,9 +168,11 @@ void SortPages::AddUp() {
             const TextView value = painter_.Texts().Plain(CellText(place, first, column_.grid));
             if (position == 0) {
                 group = value;
+                lastName_ = GroupName(place, first);
             } else if (!EqualText(value, group)) {
                 group = value;
                 groupStarts_.push_back(position);
+                groupNames_.push_back(std::exchange(lastName_, GroupName(place, first)));
                 for (Text& text : run_.totals.Show(frame_, TotalKind::Sort))
                     groupTexts_.push_back(std::move(text));
                 run_.totals.Clear(false);
@@ -169,7 +193,7 @@ void SortPages::EndTotals() {
     Text colour;
     if (column_.subTotals) {
         GridRows rows = subTotal_.Above();
-        rows.push_back(subTotal_.Row(run_.totals.Show(frame_, TotalKind::Sort), nullptr));
+        rows.push_back(subTotal_.Row(run_.totals.Show(frame_, TotalKind::Sort), nullptr, lastName_));
         colour = subTotal_.Colour();
         // Where nothing follows, the rows of the page have been counted before the last sub-total.
         if (grand || repeats) foot_ = std::move(rows);
@@ -192,8 +216,8 @@ void SortPages::AddFoot(bool up) {
     };
     links(3);
     const std::size_t row = AddHeaderRows(
-        foot_, frame_, {DownPagePath(frame_), frame_.scope.page.page.PageAnchorBottom}, nullptr);
-    PutHeader(foot_[row], main_.repeatedHeader, up);
+        foot_, frame_, {DownPagePath(frame_.filePath), frame_.scope.page.page.PageAnchorBottom}, nullptr);
+    PutHeader(foot_[row], main_.repeatedHeader, up, frame_.scope.page.page.PageAnchorBottom);
     links(4);
 }
 
@@ -206,8 +230,8 @@ void SortPages::WriteRows(html::TableWriter& table) {
         order_.PrefetchAround(position);
         if (group < groupStarts_.size() && groupStarts_[group] == position) {
             painter_.Paint(table, above);
-            painter_.Paint(table,
-                           subTotal_.Row(std::span(groupTexts_).subspan(group * totals, totals), nullptr));
+            painter_.Paint(table, subTotal_.Row(std::span(groupTexts_).subspan(group * totals, totals),
+                                                nullptr, groupNames_[group]));
             painter_.Paint(table, below);
             ++group;
         }
@@ -229,7 +253,7 @@ void SortPages::Write() {
     const bool empty = order_.Count() == 0 && top_.empty() && foot_.empty();
     run_.page.Build(run_.Scope(), frame_.options, frame_.columns.Width(), empty,
                     [&](html::TableWriter& table) {
-                        painter_.Paint(table, top_);
+                        painter_.PaintTop(table, top_);
                         WriteRows(table);
                         painter_.Paint(table, foot_);
                     });
@@ -253,7 +277,7 @@ bool SortPages::Make(bool up, Text& error) {
     else if (!order_.Collected())
         top_.assign(main_.top.size(), GridRow(frame_.columns.Width()));
     if (Interrupted(frame_, error)) return false;
-    if (main_.headerRow) PutHeader(top_[*main_.headerRow], main_.header, up);
+    if (main_.headerRow) PutHeader(top_[*main_.headerRow], main_.header, up, {});
     order_.Sort(up);
     if (Interrupted(frame_, error)) return false;
 

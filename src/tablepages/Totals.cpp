@@ -1,5 +1,6 @@
 #include "tablepages/Totals.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "html/Elements.h"
@@ -125,7 +126,7 @@ GridRows TotalBlock::Below() const {
     return rows;
 }
 
-GridRow TotalBlock::Row(std::span<const Text> texts, const Text* recordTag) const {
+GridRow TotalBlock::Row(std::span<const Text> texts, const Text* recordTag, TextView group) const {
     const std::vector<Long>& shown = frame_.columns.shown;
     GridRow row(frame_.columns.Width());
     std::size_t next = 0;
@@ -147,25 +148,40 @@ GridRow TotalBlock::Row(std::span<const Text> texts, const Text* recordTag) cons
         if (!colour_.empty()) html::AddHTMLTag(cell.tag, "BGCOLOR", colour_);
         frame_.rules.ColumnColour(cell.tag, source);
     }
-    PutLegend(row);
+    PutLegend(row, group);
     return row;
 }
 
-void TotalBlock::PutLegend(GridRow& row) const {
-    const TableOptions& options = frame_.options;
+LegendPlace PlaceOfLegend(const TableOptions& options, std::span<const Long> totals, Long width) {
     const long long column =
-        static_cast<long long>(options.PageTableTotalColumn) + (frame_.columns.recordNumbers ? 1 : 0);
-    const Long first = columns_.empty() ? 0 : columns_.front().grid;
-    if (first <= column || column < 1) return;
-    GridCell& cell = *row.Find(static_cast<Long>(column));
+        static_cast<long long>(options.PageTableTotalColumn) + (options.PageTableRecordNumber ? 1 : 0);
+    const Long first = totals.empty() ? 0 : totals.front();
+    if (column >= 1 && first > column) return {static_cast<Long>(column), first - static_cast<Long>(column)};
+    if (!options.PageTableTotalGroup) return {};
+    if (first > 1) return {1, first - 1};
+    for (Long free = 1; free <= width; ++free)
+        if (std::find(totals.begin(), totals.end(), free) == totals.end()) return {free, 1};
+    return {};
+}
+
+void TotalBlock::PutLegend(GridRow& row, TextView group) const {
+    const TableOptions& options = frame_.options;
+    std::vector<Long> totals;
+    for (const Totals::Column& column : columns_) totals.push_back(column.grid);
+    const LegendPlace place = PlaceOfLegend(options, totals, row.Width());
+    GridCell* const found = row.Find(place.column);
+    if (!found) return;
+    GridCell& cell = *found;
     cell.text = options.PageTableAddLeft;
     if (options.PageTableTotalBold) cell.text += "<B>";
     if (options.PageTableTotalItalic) cell.text += "<I>";
     cell.text += legend_;
+    if (options.PageTableTotalGroup && !group.empty()) cell.text.append(": ").append(group);
     if (options.PageTableTotalItalic) cell.text += "</I>";
     if (options.PageTableTotalBold) cell.text += "</B>";
     cell.text += options.PageTableAddRight;
-    html::AddHTMLTag(cell.tag, "COLSPAN", FromLong(SpanOf(options, first - static_cast<Long>(column))));
+    if (options.PageTableTotalGroup && !colour_.empty()) html::AddHTMLTag(cell.tag, "BGCOLOR", colour_);
+    html::AddHTMLTag(cell.tag, "COLSPAN", FromLong(SpanOf(options, place.columns)));
 }
 
 } // namespace ostrel::tablepages

@@ -43,6 +43,16 @@ private:
     bool any_ = false;
 };
 
+/// Where the legend of a row of totals stands.
+struct LegendPlace {
+    Long column = 0;  ///< in the grid; 0 for no legend
+    Long columns = 1; ///< that it covers
+};
+
+/// The place of the legend in a table with these columns. `totals` are the totalled columns of the grid, in
+/// order. A legend that names groups is found a place wherever one is left.
+LegendPlace PlaceOfLegend(const TableOptions& options, std::span<const Long> totals, Long width);
+
 /// A block of a total row with its spacers.
 class TotalBlock {
 public:
@@ -51,11 +61,12 @@ public:
     const Text& Colour() const { return colour_; }
     GridRows Above(TextView topColour = {}) const;
     GridRows Below() const;
-    /// `recordTag` is the tag of the record number's cell, null on a sorted page.
-    GridRow Row(std::span<const Text> texts, const Text* recordTag) const;
+    /// `recordTag` is the tag of the record number's cell, null on a sorted page. `group` is the value that
+    /// the rows of a sub-total share, as HTML; the legend names it where the options say so.
+    GridRow Row(std::span<const Text> texts, const Text* recordTag, TextView group = {}) const;
 
 private:
-    void PutLegend(GridRow& row) const;
+    void PutLegend(GridRow& row, TextView group) const;
 
     const ReportFrame& frame_;
     std::span<const Totals::Column> columns_;

@@ -103,9 +103,9 @@ void Form::Key(const KeyStroke& stroke) {
     RichText* text = MainText();
     if (!text || text->locked || stroke.control || stroke.alt) return;
     if (stroke.key == "Enter") {
-        text->ReplaceSelection(LineEnd);
+        text->Type(text->SelStart(), text->SelLength(), LineEnd);
     } else if (stroke.key.size() == 1) {
-        text->ReplaceSelection(stroke.shift ? Upper(stroke.key) : Lower(stroke.key));
+        text->Type(text->SelStart(), text->SelLength(), stroke.shift ? Upper(stroke.key) : Lower(stroke.key));
     }
 }
 

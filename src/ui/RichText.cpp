@@ -4,45 +4,85 @@
 
 namespace ostrel {
 
-void RichText::Content(Text text) {
-    text_ = std::move(text);
+bool RichText::Content(TextView text) {
+    if (!buffer_.Assign(text)) return false;
     start_ = length_ = 0;
-    colours.clear();
     if (onChange) onChange();
-}
-
-Text RichText::SelText() const {
-    return text_.substr(static_cast<std::size_t>(start_), static_cast<std::size_t>(length_));
+    return true;
 }
 
 void RichText::Select(Long start, Long length) {
-    const Long size = static_cast<Long>(text_.size());
-    start_ = std::clamp<Long>(start, 0, size);
-    length_ = std::clamp<Long>(length, 0, size - start_);
+    start_ = std::clamp<Long>(start, 0, buffer_.Size());
+    length_ = std::clamp<Long>(length, 0, buffer_.Size() - start_);
+    keys_ = Keys::None;
     if (onSelect) onSelect();
 }
 
-void RichText::ReplaceSelection(TextView text) {
-    text_.replace(static_cast<std::size_t>(start_), static_cast<std::size_t>(length_), text);
-    start_ += static_cast<Long>(text.size());
+bool RichText::Replace(Long at, Long removed, TextView inserted) {
+    if (!buffer_.Replace(at, removed, inserted)) return false;
+    GoBehind(at, inserted, Keys::None);
+    return true;
+}
+
+bool RichText::Type(Long at, Long removed, TextView inserted) {
+    Keys keys = Keys::None;
+    if (inserted.size() == 1) keys = Keys::Typing;
+    if (removed == 1 && inserted.empty()) keys = Keys::Erasing;
+    // The caret stands before what Delete erases, and behind what Backspace does. What replaces a selection
+    // starts a run.
+    const bool goesOn = keys != Keys::None && keys == keys_ && keysRevision_ == buffer_.Revision() &&
+                        (at == start_ || at + removed == start_) && (inserted.empty() || removed == 0);
+    if (goesOn) buffer_.ReopenStep();
+    const bool done = buffer_.Replace(at, removed, inserted);
+    if (goesOn) buffer_.EndStep();
+    if (done) GoBehind(at, inserted, keys);
+    return done;
+}
+
+void RichText::GoBehind(Long at, TextView inserted, Keys keys) {
+    start_ = std::clamp<Long>(at + static_cast<Long>(inserted.size()), 0, buffer_.Size());
     length_ = 0;
+    keys_ = keys;
+    keysRevision_ = buffer_.Revision();
+    if (onChange) onChange();
+}
+
+bool RichText::Undo() {
+    const std::uint64_t revision = buffer_.Revision();
+    if (!buffer_.Undo()) return false;
+    GoBehindChange(revision);
+    return true;
+}
+
+bool RichText::Redo() {
+    const std::uint64_t revision = buffer_.Revision();
+    if (!buffer_.Redo()) return false;
+    GoBehindChange(revision);
+    return true;
+}
+
+void RichText::GoBehindChange(std::uint64_t revision) {
+    const std::vector<Change> changes = buffer_.Since(revision);
+    // After more changes than the buffer remembers, the caret stays where it was.
+    const bool known = !changes.empty() && changes.front().removed < EditBuffer::MostText;
+    start_ = known ? changes.front().at + changes.front().inserted : std::min(start_, buffer_.Size());
+    length_ = 0;
+    keys_ = Keys::None;
     if (onChange) onChange();
 }
 
 bool RichText::Enter(const UserValue& value) {
     const Text* given = std::get_if<Text>(&value);
-    if (!given || locked) return false;
-    Content(*given);
-    return true;
+    return given && !locked && Content(*given);
 }
 
 Fields RichText::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"text", text_});
+    fields.push_back({"text", Content()});
     fields.push_back({"locked", Flag(locked)});
     fields.push_back({"SelStart", start_});
     fields.push_back({"SelLength", length_});
-    fields.push_back({"colours", colours});
+    fields.push_back({"colours", buffer_.Colours(0, buffer_.Size())});
     return fields;
 }
 

@@ -96,6 +96,8 @@ TEST_F(BridgeTest, DescribesEverything) {
     EXPECT_EQ(indexed, 23U);
     EXPECT_EQ(all["events"].size(), 41U);
     for (const Json& event : all["events"]) EXPECT_EQ(event["args"].size(), event["kinds"].size()) << event;
+    for (const Json& member : all["members"])
+        EXPECT_TRUE(member["doc"].get<std::string>().ends_with('.')) << member;
     for (const Json& form : all["forms"]) EXPECT_FALSE(form["controls"].empty()) << form;
 }
 

@@ -18,33 +18,18 @@
 #include <gtest/gtest.h>
 
 #include "cli/ShownTable.h"
-#include "support/TemporaryDirectory.h"
+#include "support/RunReport.h"
 #include "tablepages/PageLinks.h"
 
 // The command as a user runs it: the built program, its streams, its exit status and what it leaves on disk.
 
 namespace {
 
+using ostrel::test::Outcome;
+using ostrel::test::Program;
+using ostrel::test::RunReport;
 using ostrel::test::TemporaryDirectory;
 using Table = std::vector<std::vector<std::string>>;
-
-const std::string Program = OSTREL_BINARY_DIR "/ostrel";
-
-struct Outcome {
-    int status = -1;
-    std::string out, errors;
-};
-
-Outcome RunReport(const TemporaryDirectory& directory, const std::string& arguments) {
-    const std::string command = "cd '" + directory.Path() + "' && '" + Program + "' report " + arguments +
-                                " >stdout.txt 2>stderr.txt </dev/null";
-    const int result = std::system(command.c_str());
-    Outcome outcome{WIFEXITED(result) ? WEXITSTATUS(result) : -1, directory.Read("stdout.txt"),
-                    directory.Read("stderr.txt")};
-    std::filesystem::remove(directory.Path("stdout.txt"));
-    std::filesystem::remove(directory.Path("stderr.txt"));
-    return outcome;
-}
 
 const std::string MainPageAlone = " --no-sort --no-records --no-record-numbers --no-csv";
 
@@ -175,7 +160,7 @@ TEST(ReportCommand, MakesAFamilyWhoseLinksLead) {
     std::set<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(pages))
         names.insert(entry.path().filename());
-    EXPECT_EQ(names.size(), 1 + 1 + 1 + 2 * 4 + 12 * 5u); // main, down, CSV, sorted, records
+    EXPECT_EQ(names.size(), 1 + 1 + 1 + 1 + 2 * 4 + 12 * 5u); // main, down, CSV, list, sorted, records
     EXPECT_TRUE(names.count("my_list_v2_3_U.htm"));
     EXPECT_TRUE(names.count("my_list_v2_Rec_Num_12_Value_D.htm"));
 
@@ -198,10 +183,10 @@ TEST(ReportCommand, SortsByWhatTheColumnsHold) {
         for (const auto& row : ShownTable(directory.Read("out/" + page))) values += row[column] + " ";
         return values;
     };
-    EXPECT_EQ(firstColumn("", "in_1_U.htm", 0), "n -1 9 10 ");
-    EXPECT_EQ(firstColumn("--type n=text", "in_1_U.htm", 0), "n -1 10 9 ");
-    EXPECT_EQ(firstColumn("", "in_2_D.htm", 1), "d 2024-03-01 2024-02-01 2023-12-31 ");
-    EXPECT_EQ(firstColumn("", "in_3_U.htm", 2), "t 0:59 9:30 10:05 ");
+    EXPECT_EQ(firstColumn("", "in_1_U.htm", 0), "n \xE2\x96\xB2 -1 9 10 ");
+    EXPECT_EQ(firstColumn("--type n=text", "in_1_U.htm", 0), "n \xE2\x96\xB2 -1 10 9 ");
+    EXPECT_EQ(firstColumn("", "in_2_D.htm", 1), "d \xE2\x96\xBC 2024-03-01 2024-02-01 2023-12-31 ");
+    EXPECT_EQ(firstColumn("", "in_3_U.htm", 2), "t \xE2\x96\xB2 0:59 9:30 10:05 ");
     EXPECT_EQ(firstColumn("--total n --total-format 0.0", "in.htm", 0), "n 10 9 -1 18.0 ");
     EXPECT_EQ(firstColumn("--total n", "in.htm", 0), "n 10 9 -1 18 ");
     EXPECT_EQ(RunReport(directory, "in.csv -o one --sort s").status, 0);

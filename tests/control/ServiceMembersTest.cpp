@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "control/OstrelWebHelp.h"
 #include "support/TestPlatform.h"
 
@@ -65,6 +67,41 @@ TEST(ServiceMembers, MessagesAndWaits) {
     web.WaitSeconds(1);
     EXPECT_EQ(platform.clock->Ticks() - start, 1250u);
     EXPECT_EQ(ticks, 12);
+}
+
+TEST(ServiceMembers, AWaitEndsByTheTickCount) {
+    struct Row {
+        bool seconds;
+        Long jump;   ///< by which the count is set off during the wait
+        Long nested; ///< a wait inside the wait, in milliseconds
+        Long passed; ///< in the end, in milliseconds
+    };
+    for (const auto& [seconds, jump, nested, passed] : std::vector<Row>{
+             {false, 0, 0, 3000},
+             {false, 2900, 0, 100},
+             {false, 900, 0, 2100},
+             {false, 100000, 0, 100},
+             {false, -500, 0, 3500},
+             {false, 0, 5000, 5100},
+             // Each second is a wait of its own, and only the first of them is cut short or drawn out.
+             {true, 0, 0, 3000},
+             {true, 2900, 0, 2100},
+             {true, 0, 5000, 7100},
+         }) {
+        TestPlatform platform;
+        auto& clock = static_cast<VirtualClock&>(*platform.clock);
+        OstrelWebHelp web(platform);
+        clock.Ticks(4294967000U); // the count wraps meanwhile
+        const auto timer = clock.MakeTimer([&, jump = jump, nested = nested] {
+            clock.Ticks(clock.Ticks() + static_cast<std::uint32_t>(jump));
+            clock.Wait(nested);
+        });
+        timer->Start(100, false);
+        const Date start = clock.Now();
+        seconds ? web.WaitSeconds(3) : web.WaitMilliSeconds(3000);
+        EXPECT_EQ(std::lround((clock.Now().serial - start.serial) * 86'400'000), passed)
+            << seconds << " " << jump << " " << nested;
+    }
 }
 
 } // namespace ostrel

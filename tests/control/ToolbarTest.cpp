@@ -118,6 +118,13 @@ TEST(ToolbarLayout, AddressLineFillsItsRow) {
     EXPECT_EQ(view.txtURL.width, 9030 - 900 - 120);
     EXPECT_TRUE(view.txtURL.locked);
     EXPECT_FALSE(view.Default(ActionIndex).enabled);
+    bench.web->ToolbarButtonHeight(318);
+    EXPECT_EQ(view.txtURL.top, 348);
+    EXPECT_EQ(view.cmdURL.top, 332); // 331.5 goes to the even one
+    bench.web->ToolbarHeight(665);
+    EXPECT_EQ(view.txtURL.top, 349);
+    EXPECT_EQ(view.cmdURL.top, 332); // 332.5 too: only the sum is rounded
+    bench.web->ToolbarHeight(0);
     bench.web->ToolbarAddressButton(false);
     EXPECT_FALSE(view.cmdURL.visible);
     EXPECT_EQ(view.txtURL.width, 9510 - 900);

@@ -104,6 +104,27 @@ void DeskRunTest::StopEndsReading() {
     QVERIFY(bench.window->statusBar()->currentMessage().contains("Reading long.db was stopped"));
 }
 
+void DeskRunTest::EscapeEndsAPage() {
+    DeskBench bench;
+    bench.directory.Write("a.htm", "<TITLE>a</TITLE>");
+    std::string rows = "<TITLE>t</TITLE><TABLE>";
+    for (int row = 0; row < 100'000; ++row) rows += "<TR><TD>1<TD>2<TD>3<TD>4<TD>5";
+    bench.directory.Write("t.htm", rows);
+    const QString table = QString::fromStdString(bench.directory.Path("t.htm"));
+    auto* notice = bench.Part<QLabel>("paneNotice");
+    bench.window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+    bench.window->Open(table);
+    QVERIFY(WaitUntil([&] { return bench.Page() == "t.htm" && bench.Action("stop")->isEnabled(); }));
+    QTest::qWait(500);
+    LoopWatch watch;
+    QTest::keyClick(bench.View().focusProxy(), Qt::Key_Escape);
+    QVERIFY(WaitUntil([&] { return notice->isVisible() && !bench.Action("stop")->isEnabled(); }));
+    qInfo("longest turn of the loop %lld ms", watch.Longest());
+    bench.Action("home")->trigger();
+    QVERIFY(WaitUntil([&] { return bench.Page() == "a.htm" && !notice->isVisible(); }));
+}
+
 void DeskRunTest::PagesThatFailAreNamed() {
     DeskBench bench;
     bench.directory.Write("good.csv", "a,b\n1,2\n");

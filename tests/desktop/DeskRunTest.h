@@ -18,6 +18,7 @@ private slots:
     void WindowAnswersDuringARun();
     void StopEndsARun();
     void StopEndsReading();
+    void EscapeEndsAPage();
     void PagesThatFailAreNamed();
     void CloseEndsTheRunFirst();
 

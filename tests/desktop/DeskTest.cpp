@@ -69,15 +69,16 @@ void DeskTest::ReportIsWalkedByClicks() {
             return left.toDouble() < right.toDouble();
         }));
     struct Row {
-        const char *link, *page, *shows;
+        const char *link, *page, *shows, *title = "quakes";
     };
-    for (const auto& [link, page, shows] : {Row{"Magnitude", "quakes_3_D.htm", "R/N"},
-                                            {"#2", "quakes_Rec_Num_2.htm", "Record - 2"},
-                                            {"Next", "quakes_Rec_Num_3.htm", "Record - 3"},
-                                            {"Last", "quakes_Rec_Num_40.htm", "Record - 40"},
-                                            {"All", "quakes.htm", "R/N"}}) {
+    for (const auto& [link, page, shows, title] : {Row{"Magnitude\u00A0\u25B2", "quakes_3_D.htm", "R/N",
+                                                       "quakes – sorted by Magnitude, highest first"},
+                                                   {"#2", "quakes_Rec_Num_2.htm", "Record - 2"},
+                                                   {"Next", "quakes_Rec_Num_3.htm", "Record - 3"},
+                                                   {"Last", "quakes_Rec_Num_40.htm", "Record - 40"},
+                                                   {"All", "quakes.htm", "R/N"}}) {
         QCOMPARE(bench.Follow(link), QString(page));
-        QCOMPARE(bench.window->windowTitle(), QString("quakes — Ostrel Desk"));
+        QCOMPARE(bench.window->windowTitle(), QString(title) + " — Ostrel Desk");
         QVERIFY2(bench.Script("document.body.innerText").toString().contains(shows), link);
     }
     QCOMPARE(bench.View().url().fragment(), QString("Rec_Num_40"));
@@ -85,9 +86,12 @@ void DeskTest::ReportIsWalkedByClicks() {
     bench.Click("cmdBack");
     QVERIFY(WaitUntil([&] { return bench.Page() == "quakes_Rec_Num_40.htm"; }));
     QVERIFY(WaitUntil([&] { return bench.Action("forward")->isEnabled(); }));
+    bench.Action("toolbar")->setChecked(false);
     bench.Action("back")->trigger();
     QVERIFY(WaitUntil([&] { return bench.Page() == "quakes_Rec_Num_3.htm"; }));
     bench.Settle();
+    bench.Action("toolbar")->setChecked(true);
+    bench.window->Widget().Sync();
     bench.Click("cmdHome");
     QVERIFY(WaitUntil([&] { return bench.Page() == "quakes.htm"; }));
 }
@@ -118,9 +122,11 @@ void DeskTest::OptionsShapeTheReport() {
     bench.Open("prices.csv");
     // Texts that are taken for numbers are sorted so, and never summed.
     auto* columns = bench.Part<QTableView>("columns")->model();
-    columns->setData(columns->index(1, ColumnsModel::KindSection), static_cast<int>(cli::ColumnType::Number));
+    columns->setData(columns->index(1, ColumnsModel::KindSection),
+                     static_cast<int>(tables::ColumnType::Number));
     QVERIFY(!columns->flags(columns->index(1, ColumnsModel::TotalSection)).testFlag(Qt::ItemIsEnabled));
-    columns->setData(columns->index(1, ColumnsModel::KindSection), static_cast<int>(cli::ColumnType::Text));
+    columns->setData(columns->index(1, ColumnsModel::KindSection),
+                     static_cast<int>(tables::ColumnType::Text));
     bench.Part<QLineEdit>("title")->setText("Fruit & more");
     ClickColumn(bench, 0, ColumnsModel::SortSection); // none is sorted
     ClickColumn(bench, 1, ColumnsModel::SortSection); // but the name
@@ -134,10 +140,10 @@ void DeskTest::OptionsShapeTheReport() {
     QCOMPARE(made,
              (QStringList{"prices.csv", "prices.htm", "prices_1_D.htm", "prices_1_U.htm", "prices_D.htm"}));
     QCOMPARE(bench.View().title(), QString("Fruit & more"));
-    const QString text = bench.Script("document.body.innerText").toString();
+    const QString text = bench.Script("document.body.textContent").toString();
     QVERIFY2(text.contains("3.75"), qPrintable(text));
     QVERIFY(!text.contains("Code"));
-    QVERIFY(text.contains("3 rows, 3 columns"));
+    QVERIFY(text.contains("3 rows, 2 columns"));
 
     // What has been chosen for one file does not go to the next.
     bench.directory.Write("other.csv", "Name,Price\nPear,2.5\n");
@@ -315,6 +321,57 @@ void DeskTest::HelpPagesAreShownByClicks() {
     bench.Settle();
     bench.Click("cmdHome");
     QVERIFY(WaitUntil([&] { return bench.Page() == "index.html"; }));
+}
+
+void DeskTest::DirectoryOpensOnItsMainPage_data() {
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QString>("first");
+    const auto row = [](const char* name, const QStringList& names, const char* first) {
+        QTest::newRow(name) << names << first;
+    };
+    row("an index", {"a.htm", "a_D.htm", "Index.HTM"}, "Index.HTM");
+    row("a report",
+        {"about.htm", "sales.htm", "sales_3_U.htm", "sales_3_D.htm", "sales_D.htm", "sales_Rec_Num_2.htm"},
+        "sales.htm");
+    row("one page down alone", {"2023.htm", "y_2024.htm", "y_2024_D.htm"}, "y_2024.htm");
+    row("a page named like a sorted one", {"a.htm", "b.htm", "b_D.htm", "b_D_1_U.htm"}, "b.htm");
+    row("no report", {"c_D.htm", "d__U.htm", "d_x_U.htm", "d.htm"}, "c_D.htm");
+    row("the report that was made last", {"a.htm", "a_1_U.htm", "b.htm", ".b.ostrel"}, "b.htm");
+}
+
+void DeskTest::DirectoryOpensOnItsMainPage() {
+    QFETCH(QStringList, names);
+    QFETCH(QString, first);
+    TemporaryDirectory directory;
+    for (const QString& name : names) directory.Write(name.toStdString(), "Ostrel report files 1\n");
+    desk::HelpPagesModel model;
+    QVERIFY(model.Fill(QString::fromStdString(directory.Path())));
+    QCOMPARE(model.FirstPage(), first);
+}
+
+void DeskTest::OptionsComeBackFromHelpPages() {
+    DeskBench bench;
+    bench.directory.Write("fruit.csv", "Name,Price\nPear,2.5\n");
+    QDir().mkpath(QString::fromStdString(bench.directory.Path("help")));
+    bench.directory.Write("help/start.htm", "<TITLE>Start</TITLE>");
+    bench.Open("fruit.csv");
+    QVERIFY(!bench.Action("reportOptions")->isEnabled());
+    bench.window->SetOutputDirectory({});
+    bench.window->Open(QString::fromStdString(bench.directory.Path("help")));
+    bench.Settle();
+    QVERIFY(bench.Part<QWidget>("helpPages")->isVisible() && !bench.Part<QWidget>("make")->isVisible());
+    QVERIFY(!bench.Action("makeReport")->isEnabled());
+    bench.Action("panel")->setChecked(false);
+    bench.Action("reportOptions")->trigger();
+    QVERIFY(bench.Part<QWidget>("make")->isVisible() && !bench.Action("reportOptions")->isEnabled());
+    bench.Action("makeReport")->trigger();
+    QVERIFY(bench.Part<QWidget>("directoryTrouble")->isVisible());
+    bench.Click("cmdHome");
+    QVERIFY(WaitUntil([&] { return bench.Page() == "preview.htm"; }));
+    bench.Action("helpPagesPanel")->trigger();
+    QVERIFY(bench.Part<QWidget>("helpPages")->isVisible() && !bench.Action("makeReport")->isEnabled());
+    bench.Click("cmdHome");
+    QVERIFY(WaitUntil([&] { return bench.Page() == "start.htm"; }));
 }
 
 void DeskTest::DroppedFileOpens() {

@@ -26,6 +26,9 @@ private slots:
     void FaultyDirectoryIsToldAtItsField();
     void StateComesBack();
     void HelpPagesAreShownByClicks();
+    void DirectoryOpensOnItsMainPage_data();
+    void DirectoryOpensOnItsMainPage();
+    void OptionsComeBackFromHelpPages();
     void DroppedFileOpens();
     void CommandLineIsRead_data();
     void CommandLineIsRead();

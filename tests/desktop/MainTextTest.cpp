@@ -1,12 +1,17 @@
 #include "desktop/MainTextTest.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <random>
 
+#include "desktop/DocumentLines.h"
 #include "desktop/FormBench.h"
+#include "desktop/FormDialog.h"
 #include "desktop/LineText.h"
 
 namespace ostrel::test {
@@ -51,11 +56,13 @@ QString SelectionOf(const EditForm& form) {
 } // namespace
 
 void MainTextTest::PositionsOfLines() {
-    const desktop::LineText lines("a\r\n\r\nb\nc\rd\r\n");
-    QCOMPARE(QString(lines.Raw()).replace(QChar::ParagraphSeparator, '|'), QString("a||b|c|d|"));
+    QTextDocument document;
+    desktop::DocumentLines lines(document);
+    lines.Show(0, 0, "a\r\n\r\nb\nc\rd\r\n");
+    QCOMPARE(document.toRawText().replace(QChar::ParagraphSeparator, '|'), QString("a||b|c|d|"));
     const std::vector<int> raw{0, 1, 1, 2, 2, 3, 4, 5, 6, 7, 8, 8, 9};
     for (Long position = 0; position < static_cast<Long>(raw.size()); ++position)
-        QCOMPARE(lines.ToRaw(position), raw[static_cast<std::size_t>(position)]);
+        QCOMPARE(lines.ToDocument(position), raw[static_cast<std::size_t>(position)]);
     const std::vector<Long> model{0, 1, 3, 5, 6, 7, 8, 9, 10, 12};
     for (int position = 0; position < static_cast<int>(model.size()); ++position)
         QCOMPARE(lines.ToModel(position), model[static_cast<std::size_t>(position)]);
@@ -135,6 +142,106 @@ void MainTextTest::EveryByteStandsAsItIs() {
         QCOMPARE(form.text.Content(), before);
         QTest::keyClicks(&EditOf(dialog), "!");
         QCOMPARE(form.text.Content(), before + "!");
+    });
+}
+
+void MainTextTest::EditsFromBothSides() {
+    FormBench bench;
+    EditForm form;
+    bench.Show(form, [&form](QDialog& dialog) {
+        QPlainTextEdit& edit = EditOf(dialog);
+        std::mt19937 random(1);
+        const auto below = [&random](qsizetype limit) {
+            return static_cast<int>(random() % static_cast<unsigned>(limit));
+        };
+        // Line ends of all kinds, which edits part and join.
+        const std::vector<Text> pieces{"", "a", "\r", "\n", "\r\n", "b\r", "\nc", "\r\r\n", "d\r\ne\n"};
+        const QStringList typed{"", "x", "\n", "y\nz"};
+        std::uint64_t seen = 0;
+        for (int turn = 0; turn < 3000; ++turn) {
+            Text expected = form.text.Content();
+            if (turn % 3 == 0) {
+                const int at = below(form.text.Buffer().Size() + 1), removed = below(4);
+                const Text& piece = pieces[static_cast<std::size_t>(below(9))];
+                expected.replace(static_cast<std::size_t>(at), static_cast<std::size_t>(removed), piece);
+                form.text.Replace(at, removed, piece);
+                form.text.Colour(below(50), below(9), below(3));
+            } else {
+                const int size = edit.document()->characterCount() - 1;
+                const int start = below(size + 1), end = std::min(start + below(4), size);
+                const QString& keys = typed[below(4)];
+                // Where the model has changed meanwhile, the user meant a text that is gone.
+                if (seen == form.text.Buffer().Revision()) {
+                    std::vector<std::size_t> places;
+                    for (std::size_t at = 0; at <= expected.size(); ++at)
+                        if (at == 0 || expected.compare(at - 1, 2, "\r\n") != 0) places.push_back(at);
+                    // A line end that is typed over one is the same line end.
+                    const desktop::TextChange change = desktop::ChangeBetween(
+                        desktop::ShownLines(expected).mid(start, end - start), keys, size);
+                    const std::size_t first = static_cast<std::size_t>(start + change.start);
+                    const std::size_t behind = first + static_cast<std::size_t>(change.removed);
+                    expected.replace(places[first], places[behind] - places[first],
+                                     desktop::ModelLines(change.inserted));
+                }
+                QTextCursor cursor(edit.document());
+                cursor.setPosition(start);
+                cursor.setPosition(end, QTextCursor::KeepAnchor);
+                cursor.insertText(keys);
+                seen = form.text.Buffer().Revision();
+            }
+            QCOMPARE(form.text.Content(), expected);
+            if (turn % 5 == 0 && form.text.Undo()) form.text.Redo();
+            if (turn % 4 == 0) continue;
+            static_cast<desktop::FormDialog&>(dialog).Sync();
+            seen = form.text.Buffer().Revision();
+            QCOMPARE(edit.toPlainText(), desktop::ShownLines(expected));
+        }
+    });
+}
+
+void MainTextTest::CopiesKeepEveryCharacter() {
+    FormBench bench;
+    EditForm form;
+    const Text odd = "a\xA0\rb\r\nc";
+    form.text.Content(odd + "|");
+    bench.Show(form, [&](QDialog& dialog) {
+        QPlainTextEdit& edit = EditOf(dialog);
+        const auto all = static_cast<Long>(odd.size());
+        const auto press = [&edit](Qt::Key key) { QTest::keyClick(&edit, key, Qt::ControlModifier); };
+        form.text.Select(0, all);
+        QTRY_VERIFY(edit.textCursor().hasSelection());
+        press(Qt::Key_C);
+        QTest::keyClick(&edit, Qt::Key_End, Qt::ControlModifier);
+        press(Qt::Key_V);
+        QCOMPARE(form.text.Content(), odd + "|" + odd);
+        press(Qt::Key_Z);
+        QCOMPARE(form.text.Content(), odd + "|");
+        press(Qt::Key_Z);
+        QCOMPARE(form.text.Content(), odd + "|");
+        QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(form.text.Content(), odd + "|" + odd);
+        QMimeData dragged;
+        dragged.setText(QString("c\u00A0\r"));
+        const QPoint start = edit.cursorRect(QTextCursor(edit.document())).center();
+        QDragEnterEvent enter(start, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QApplication::sendEvent(edit.viewport(), &enter);
+        QDropEvent drop(start, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QApplication::sendEvent(edit.viewport(), &drop);
+        QCOMPARE(form.text.Content(), "c\xA0\r" + odd + "|" + odd);
+        press(Qt::Key_Z);
+        QCOMPARE(form.text.Content(), odd + "|" + odd);
+        form.text.Select(0, all);
+        QTRY_VERIFY(edit.textCursor().hasSelection());
+        press(Qt::Key_X);
+        QCOMPARE(form.text.Content(), "|" + odd);
+        QCOMPARE(QApplication::clipboard()->text(), QString("a\u00A0\rb\nc"));
+        // Letters of one run are one step; a character of no code page is shown as what it became.
+        QTest::keyClicks(&edit, "xyz");
+        press(Qt::Key_Z);
+        QCOMPARE(form.text.Content(), "|" + odd);
+        FormBench::Commit(&edit, QString::fromUtf8("\U0001F600"));
+        QCOMPARE(form.text.Content(), "?|" + odd);
+        QCOMPARE(edit.toPlainText().left(2), QString("?|"));
     });
 }
 
@@ -226,7 +333,8 @@ void MainTextTest::ColoursAreShown() {
     FormBench bench;
     EditForm form;
     form.text.Content("ab\r\ncdef");
-    form.text.colours = {{0, 1, 0x0000FF}, {1, 5, 0xFF0000}};
+    form.text.Colour(0, 1, 0x0000FF);
+    form.text.Colour(1, 5, 0xFF0000);
     bench.Show(form, [&form](QDialog& dialog) {
         const auto shown = [&dialog](int line) {
             QString all;
@@ -240,10 +348,11 @@ void MainTextTest::ColoursAreShown() {
         QCOMPARE(shown(0), QString("0+1 #ff0000;1+1 #0000ff;"));
         QCOMPARE(shown(1), QString("0+2 #0000ff;"));
         QVERIFY(!EditOf(dialog).document()->isUndoAvailable());
-        form.text.colours = {{6, 2, 0x008000}};
+        form.text.Colour(0, 6, 0);
+        form.text.Colour(6, 2, 0x008000);
         QTRY_COMPARE(shown(1), QString("2+2 #008000;"));
         QCOMPARE(shown(0), QString());
-        form.text.colours.clear();
+        form.text.Colour(0, 8, 0);
         QTRY_COMPARE(shown(1), QString());
     });
 }

@@ -13,6 +13,8 @@ private slots:
     void ChangesBetweenTexts();
     void TypingReachesTheModel();
     void EveryByteStandsAsItIs();
+    void EditsFromBothSides();
+    void CopiesKeepEveryCharacter();
     void SelectionsGoBothWays();
     void ModelMayAnswerAnEdit();
     void ChordsReachTheFormFirst();

@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QFile>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWebEngineHistory>
 
 #include "desktop/DesktopBench.h"
 #include "desktop/LocalServer.h"
@@ -91,6 +93,72 @@ void PaneTest::LoadThatIsNotReplacedGoesOn() {
     bench.Web().LoadURL("javascript:window.stop()", error);
     QVERIFY(bench.Until("DocumentComplete " + server.Address()));
     QVERIFY2(WaitUntil([&] { return !bench.Web().Busy(); }), "a script's address is no load");
+}
+
+void PaneTest::LayoutWithoutEndIsEnded() {
+    DesktopBench bench;
+    const Text a = bench.Page("a.htm");
+    Text rows = "<TITLE>t</TITLE><TABLE>", error;
+    for (int row = 0; row < 150'000; ++row) rows += "<TR><TD>1<TD>2<TD>3<TD>4<TD>5<TD>6<TD>7<TD>8<TD>9<TD>10";
+    const Text table = bench.Page("t.htm", rows);
+    auto* notice = bench.widget.findChild<QLabel*>("paneNotice");
+    const auto begin = [&] {
+        const bool begun =
+            bench.Load(a) && bench.Web().LoadURL(table, error) && bench.Until("NavigateComplete2 " + table);
+        QTest::qWait(1000);
+        bench.Take();
+        return begun && bench.Web().Busy() && bench.Web().ToolbarButtonEnabled("stop");
+    };
+    QSignalSpy ended(bench.View().page(), &QWebEnginePage::renderProcessTerminated);
+    const auto stop = [&] {
+        ended.clear();
+        bench.Web().Cancel();
+        const bool stopped =
+            bench.Until("DocumentComplete " + table) && WaitUntil([&] { return !ended.empty(); });
+        bench.Take();
+        return stopped && notice->isVisible() && !bench.Web().Busy() && bench.Web().LocationURL() == table;
+    };
+    const auto comes = [&] {
+        return bench.Until("DocumentComplete " + a) && bench.Script("document.title") == "a" &&
+               !notice->isVisible();
+    };
+    QVERIFY(begin() && stop());
+    bench.Web().Refresh();
+    QVERIFY(bench.Until("DownloadBegin"));
+    QTest::qWait(1000);
+    QVERIFY2(!notice->isVisible() && stop(), "the same again after a refresh");
+    bench.Web().GoBack();
+    QVERIFY2(comes(), "back");
+    const auto* history = bench.View().page()->history();
+    for (const bool stopped : {true, false}) {
+        QVERIFY(begin());
+        const int place = history->currentItemIndex();
+        if (stopped) bench.Web().Cancel();
+        stopped ? bench.Web().LoadURL(a, error) : bench.Web().GoBack();
+        QVERIFY2(comes(), "another page before the end");
+        QCOMPARE(std::count(bench.log.begin(), bench.log.end(), "BeforeNavigate2 " + a + "  False"), 1);
+        QCOMPARE(history->currentItemIndex(), stopped ? place + 1 : place - 1);
+    }
+}
+
+void PaneTest::PageIsDoneWhenItIsLaidOut() {
+    DesktopBench bench;
+    const Text a = bench.Page("a.htm");
+    const Text page =
+        bench.Page("p.htm", "<TITLE>p</TITLE><BODY><SCRIPT>onload = () => document.body.innerHTML = "
+                            "'<TABLE>' + '<TR><TD>1<TD>2<TD>3<TD>4<TD>5'.repeat(20000)</SCRIPT>");
+    for (const bool stopped : {false, true}) {
+        QVERIFY(bench.Load(a));
+        QSignalSpy loaded(bench.View().page(), &QWebEnginePage::loadFinished);
+        Text error;
+        QVERIFY(bench.Web().LoadURL(page, error));
+        QVERIFY(WaitUntil([&] { return !loaded.empty(); }));
+        QVERIFY(bench.Web().Busy() && bench.Web().ToolbarButtonEnabled("stop"));
+        if (stopped) bench.Web().Cancel();
+        QVERIFY(bench.Until("DocumentComplete " + page));
+        QVERIFY(!bench.Web().Busy() && !bench.Web().ToolbarButtonEnabled("stop"));
+        bench.Take();
+    }
 }
 
 void PaneTest::PagesWithoutEndAreEnded() {

@@ -24,6 +24,8 @@ private slots:
     void RefreshThatFailsCompletes();
     void PageThatLeadsOnAsks();
     void LoadThatIsNotReplacedGoesOn();
+    void LayoutWithoutEndIsEnded();
+    void PageIsDoneWhenItIsLaidOut();
     void PagesWithoutEndAreEnded();
     void RemoteLoadsOnlyOnline();
     void TargetsAreFound();
@@ -31,6 +33,7 @@ private slots:
     void DataFilesAreNotRead();
     void WrittenWindowsGoWithTheirPage();
     void RemotePagesNameNoFile();
+    void StepsLeadBackFromRemotePages();
     void PagesHaveNoSockets();
     void FindsAndZooms();
     void DocumentTextIsRead();

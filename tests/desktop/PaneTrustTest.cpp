@@ -118,6 +118,44 @@ void PaneTest::RemotePagesNameNoFile() {
     }
 }
 
+void PaneTest::StepsLeadBackFromRemotePages() {
+    DesktopBench bench;
+    LocalServer server("<TITLE>Remote</TITLE>remote");
+    bench.directory.Write("part.htm", "part");
+    bench.directory.Write("style.css", "body { color: rgb(1, 2, 3) }");
+    const Text b = bench.Page("b.htm"), remote = server.Address();
+    const Text a = bench.Page(
+        "a.htm", "<TITLE>a</TITLE><LINK REL=stylesheet HREF=style.css><A HREF=b.htm>b</A> <A HREF=" + remote +
+                     ">r</A><IFRAME SRC=part.htm></IFRAME>");
+    const auto comes = [&](const Text& page) {
+        const bool came = bench.Until("DocumentComplete " + page) && bench.Until("DownloadComplete");
+        QTest::qWait(20);
+        bench.Take();
+        return came;
+    };
+    for (const bool offline : {true, false}) {
+        bench.Web().Offline(offline);
+        QVERIFY(bench.Load(b) && bench.Load(a));
+        bench.ClickElement("document.links[1]");
+        QVERIFY(comes(remote));
+        bench.Web().GoBack();
+        QVERIFY(comes(a));
+        QVERIFY2(bench.Script("getComputedStyle(document.body).color").toString() == "rgb(1, 2, 3)",
+                 "all its parts have come");
+        QCOMPARE(bench.Script("frames.length").toInt(), 1);
+        bench.Web().GoForward();
+        QVERIFY(comes(remote));
+        // A script of the remote page may go back; what the way back shows is closed to it.
+        bench.Script("history.back(); 0");
+        QVERIFY(comes(a));
+        bench.ClickElement("document.links[0]");
+        QVERIFY(comes(b));
+        QVERIFY(bench.Load(remote));
+        QVERIFY(bench.Load(a));
+        QCOMPARE(bench.Web().LocationName(), Text("a"));
+    }
+}
+
 void PaneTest::PagesHaveNoSockets() {
     DesktopBench bench;
     QUdpSocket datagrams;

@@ -12,8 +12,10 @@
 
 #include "control/Children.h"
 #include "desktop/DesktopBench.h"
+#include "desktop/QtClock.h"
 #include "desktop/QtScreen.h"
 #include "desktop/Twips.h"
+#include "support/SleepLog.h"
 
 namespace ostrel::test {
 
@@ -274,6 +276,11 @@ void WidgetTest::MouseIsToldInTheControlsCoordinates() {
     const QPoint beside(5, bench.Child("picToolbar")->height() + 5);
     QTest::mouseClick(bench.Child("picBrowser"), Qt::MiddleButton, {}, beside);
     QVERIFY(expect(bench.Child("picBrowser"), beside, "4 0"));
+    bench.Web().ToolbarAddressVisible(true);
+    bench.widget.Sync();
+    for (const char* silent : {"lblURL", "txtURL", "cmdURL", "fraStop", "picGauge", "picGauge2", "cmdStop"})
+        QTest::mouseClick(bench.Child(silent), Qt::RightButton);
+    QVERIFY2(told.empty(), "only the surface, the strip and its buttons are heard of");
     const QPointF over(6, 7);
     QMouseEvent move(QEvent::MouseMove, over, home->mapToGlobal(over), Qt::NoButton, Qt::NoButton, {});
     QCoreApplication::sendEvent(home, &move);
@@ -327,6 +334,11 @@ void WidgetTest::YieldsKeepTheWindowAlive() {
     };
     bench.widget.World().clock->Post(again);
     QVERIFY(WaitUntil([&] { return depth == 1000; }));
+}
+
+void WidgetTest::SleepsUntilSomethingIsDueOrReady() {
+    desktop::QtClock clock;
+    QCOMPARE(SleepLog(clock), Text(ExpectedSleepLog));
 }
 
 } // namespace ostrel::test

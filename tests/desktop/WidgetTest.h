@@ -19,6 +19,7 @@ private slots:
     void MouseIsToldInTheControlsCoordinates();
     void ModelsArriveAtTheWidgets();
     void YieldsKeepTheWindowAlive();
+    void SleepsUntilSomethingIsDueOrReady();
 };
 
 } // namespace ostrel::test

@@ -3,6 +3,7 @@
 #include <QTest>
 #include <memory>
 
+#include "desktop/DeskFilesTest.h"
 #include "desktop/DeskRunTest.h"
 #include "desktop/DeskTest.h"
 #include "desktop/FormDialogTest.h"
@@ -10,6 +11,7 @@
 #include "desktop/MainTextTest.h"
 #include "desktop/PaneTest.h"
 #include "desktop/QtScreenTest.h"
+#include "desktop/ReportLookTest.h"
 #include "desktop/ToolbarGlyphsTest.h"
 #include "desktop/WidgetTest.h"
 
@@ -44,7 +46,9 @@ int main(int argc, char** argv) {
     failures += Run<ostrel::test::QtScreenTest>(arguments);
     failures += Run<ostrel::test::WidgetTest>(arguments);
     failures += Run<ostrel::test::PaneTest>(arguments);
+    failures += Run<ostrel::test::ReportLookTest>(arguments);
     failures += Run<ostrel::test::DeskTest>(arguments);
     failures += Run<ostrel::test::DeskRunTest>(arguments);
+    failures += Run<ostrel::test::DeskFilesTest>(arguments);
     return failures == 0 ? 0 : 1;
 }

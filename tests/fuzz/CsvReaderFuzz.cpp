@@ -2,13 +2,13 @@
 #include <cstdlib>
 #include <string>
 
-#include "cli/CsvReader.h"
-#include "cli/InputError.h"
+#include "tables/CsvReader.h"
+#include "tables/InputError.h"
 
 namespace {
 
 using namespace ostrel;
-using namespace ostrel::cli;
+using namespace ostrel::tables;
 
 /// What a reading comes to: every cell with both its texts, or the sentence of what is wrong.
 std::string Outcome(std::string_view text, std::size_t chunk) {

@@ -44,7 +44,6 @@ TEST(Elements, Simple) {
         {CreateParagraphFixed("<FONT>", "a"), "<FONT><PRE>a</PRE></FONT>"},
         {CreateSpaces(3), "&nbsp;&nbsp;&nbsp;"},
         {CreateSpaces(-1), ""},
-        {CreateSpaces(2147483647), ""},
         {CreateStringBold(""), ""},
         {CreateStringColour("", "RED", true, true, true), ""},
         {CreateStringColour("<", "", true, true, true), "<FONT><B><I><U><</U></I></B></FONT>"},

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "html/Elements.h"
+
 namespace ostrel::html {
 namespace {
 
@@ -151,12 +153,41 @@ TEST(TableWriter, PiecesOfACellCountAsOneText) {
 TEST(TableWriter, CountsAndArraysThatDiffer) {
     World world;
     const Grid<Text> cells{{"a", "b"}};
-    EXPECT_EQ(CreateTable(world.context, 2000000000, 1000, cells, {}, {}).size(),
-              CreateTable(world.context, 1, 2, cells, {}, {}).size());
     EXPECT_EQ(CreateTable(world.context, 0, 2, cells, {}, {}), "");
     EXPECT_EQ(CreateTable(world.context, 1, 0, cells, {}, {}), "");
     EXPECT_EQ(Rows(CreateTable(world.context, 2, 1, cells, {}, {})),
               "<TR>|<TD>a</TD>|</TR>||<TR>|<TD></TD>|</TR>||");
+    EXPECT_EQ(Rows(CreateTable(world.context, 2, 4, cells, {}, {})),
+              "<TR>|<TD>a</TD>|<TD>b</TD>|<TD>&nbsp;</TD><TD>&nbsp;</TD></TR>||"
+              "<TR>|<TD COLSPAN = \"4\">&nbsp;</TD>|</TR>||");
+    TableLook spaced;
+    spaced.spaceColumns = true;
+    const Grid<Text> values{{"a"}, {"b"}, {""}}, tags{{""}, {"COLSPAN=\"5\""}, {"NOWRAP"}};
+    EXPECT_EQ(Rows(CreateTable(world.context, 4, 4, values, tags, spaced)),
+              "<TR>|<TD>a</TD>|<TD>&nbsp;&nbsp;</TD><TD>&nbsp;</TD><TD>&nbsp;&nbsp;</TD><TD>&nbsp;</TD>"
+              "<TD>&nbsp;&nbsp;</TD><TD>&nbsp;</TD></TR>||"
+              "<TR>|<TD COLSPAN=\"5\">b</TD>|<TD></TD><TD></TD>|</TR>||"
+              "<TR>|<TD NOWRAP></TD><TD COLSPAN=\"6\"></TD>|</TR>||"
+              "<TR>|<TD COLSPAN = \"7\">&nbsp;</TD>|</TR>||");
+}
+
+TEST(TableWriter, CountsAloneAreBoundedAndContentIsNot) {
+    World world;
+    constexpr std::size_t Mebibyte = std::size_t{1} << 20, Bound = 64 * Mebibyte;
+    constexpr Long Most = 2147483647;
+    TableLook look;
+    look.font = Text(Mebibyte, 'f');
+    Grid<Text> cells(1, 70);
+    for (Long column = 1; column <= 70; ++column) cells.Put(1, column, "x");
+    const std::size_t content = CreateTable(world.context, 1, 70, cells, {}, look).size();
+    EXPECT_GT(content, 70 * Mebibyte);
+    const std::size_t wide = CreateTable(world.context, 1, Most, cells, {}, look).size() - content;
+    EXPECT_GT(wide, Bound - 2 * Mebibyte);
+    EXPECT_LE(wide, Bound);
+    const std::size_t high = CreateTable(world.context, Most, 70, cells, {}, look).size() - content;
+    EXPECT_GT(high, Bound - 2 * Mebibyte);
+    EXPECT_LE(high, Bound);
+    EXPECT_EQ(CreateSpaces(Most).size(), Bound / 6 * 6);
 }
 
 } // namespace

@@ -95,6 +95,12 @@ TEST_P(FileFaultTest, LeavesTheOldPageOrTheNewOne) {
         }
     EXPECT_GE(failures, calls);
 
+    SCOPED_TRACE("every close fails");
+    Run([](FaultyCalls& faulty) { faulty.closeError = EIO; }, unused, failed);
+    EXPECT_TRUE(failed);
+    SCOPED_TRACE("every close is interrupted, and done");
+    Run([](FaultyCalls& faulty) { faulty.closeError = EINTR; }, unused, failed);
+    EXPECT_FALSE(failed);
     SCOPED_TRACE("short writes");
     Run([](FaultyCalls& faulty) { faulty.largestWrite = 777; }, unused, failed);
     EXPECT_FALSE(failed);
@@ -113,6 +119,32 @@ INSTANTIATE_TEST_SUITE_P(Ways, FileFaultTest,
                                          Case{"backup by a copy", true, true, false, false, false},
                                          Case{"through a link", true, false, true, true, true}),
                          [](const auto& way) { return "Way" + std::to_string(way.index); });
+
+TEST(FileFault, WhatRefusesAccessIsLeftAlone) {
+    TemporaryDirectory directory;
+    directory.Write("page.htm", OldPage);
+    FaultyCalls faulty;
+    NativeFiles files(faulty);
+    const Text page = directory.Component("page.htm");
+    EXPECT_TRUE(files.IsFile(page));
+    faulty.accessError = EACCES;
+    EXPECT_FALSE(files.IsFile(page));
+    const Text before = files.CurrentDirectory();
+    for (const FileResult& result :
+         {files.Replace(page, NewPieces), files.ChangeDirectory(directory.Component(""))}) {
+        EXPECT_EQ(result.number, 75) << result.text;
+        EXPECT_FALSE(result.text.empty());
+    }
+    EXPECT_EQ(directory.Read("page.htm"), OldPage);
+    EXPECT_EQ(files.CurrentDirectory(), before);
+}
+
+TEST(FileFault, ADeviceThatFailsToCloseIsReported) {
+    FaultyCalls faulty;
+    faulty.closeError = EIO;
+    NativeFiles files(faulty);
+    EXPECT_EQ(files.Replace("C:\\dev\\null", NewPieces).number, 57);
+}
 
 TEST(FileFault, AKilledProcessLeavesWholePages) {
     TemporaryDirectory directory;

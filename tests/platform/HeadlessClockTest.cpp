@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/headless/VirtualClock.h"
+#include "support/SleepLog.h"
 #include "text/DateText.h"
 
 namespace ostrel::test {
@@ -56,6 +57,19 @@ TEST(VirtualClock, WorkThatPostsItselfDoesNotHoldTheMoment) {
     clock.Advance(5);
     EXPECT_GT(rounds, 1);
     EXPECT_EQ(clock.Ticks(), 5u);
+}
+
+TEST(VirtualClock, SleepsUntilSomethingIsDueOrReady) {
+    VirtualClock clock;
+    EXPECT_EQ(SleepLog(clock), ExpectedSleepLog);
+    // The timer's 30 and the last sleep's 20: a source takes none.
+    EXPECT_EQ(clock.Ticks(), 50u);
+    const auto timer = clock.MakeTimer([] {});
+    timer->Start(300, false);
+    for (const std::uint32_t ticks : {250u, 350u, 550u}) {
+        EXPECT_FALSE(clock.Sleep(200, {}));
+        EXPECT_EQ(clock.Ticks(), ticks);
+    }
 }
 
 TEST(VirtualClock, TicksAreSetApartFromTime) {

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <string>
 
+#include "support/SleepLog.h"
+
 using namespace ostrel;
 
 TEST(NativeClock, WaitsWhileEverythingDueRuns) {
@@ -32,6 +34,11 @@ TEST(NativeClock, WaitsWhileEverythingDueRuns) {
     EXPECT_EQ(log, "posted (late )");
     EXPECT_GE(ticks, 2);
     clock.Wait(-1);
+}
+
+TEST(NativeClock, SleepsUntilSomethingIsDueOrReady) {
+    NativeClock clock;
+    EXPECT_EQ(test::SleepLog(clock), test::ExpectedSleepLog);
 }
 
 TEST(NativeClock, NowIsTheLocalTime) {

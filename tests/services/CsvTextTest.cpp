@@ -50,7 +50,7 @@ TEST(CsvText, WritesRecordsAndStops) {
         platform.Disk().Add("C:\\d\\a.csv", "old");
         Long turns = 0;
         std::function<void()> atTurn = [&] {
-            if (++turns == stopAt) platform.run.StopPressed = true;
+            if (++turns == stopAt) (stopAt == 2 ? platform.run.HostStop : platform.run.StopPressed) = true;
             platform.clock->Post(atTurn);
         };
         platform.clock->Post(atTurn);

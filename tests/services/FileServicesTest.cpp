@@ -58,7 +58,8 @@ TEST(FileServices, DirectoryMake) {
              {"C:\\d", "", 0},
              {"X:\\a", "Drive [X:] does not exist.", 0},
              {"C:\\d\\file\\b", "Path/File access error", 0},
-             {"", "Directory has not been defined.", 0},
+             {"", "Directory [] may have been created, but can't be found!", 0},
+             {" / ", "Directory [] may have been created, but can't be found!", 0},
              {"C:\\a", "Device I/O error", 4},
              {"C:\\a", "Directory [C:\\a] may have been created, but can't be found!", 5},
              {"C:\\a", "Old Directory [C:\\] can't be reset.", 6},
@@ -202,6 +203,20 @@ TEST(FileServices, SafeWrite) {
                   options.askOverwrite
                       ? std::vector<Text>{"Title: File [C:\\d\\a.htm] exists.  Do you want to Overwrite?"}
                       : std::vector<Text>{});
+    }
+}
+
+TEST(FileServices, ABackupLiesBesideItsFile) {
+    for (const auto& [path, backup] : std::vector<std::pair<Text, Text>>{
+             {"C:\\a.b\\file", "C:\\a.b\\file.bak"},
+             {"C:\\a.b\\file.x.htm", "C:\\a.b\\file.x.bak"},
+         }) {
+        TestPlatform platform;
+        platform.Disk().Add("C:\\a.b\\any", "");
+        platform.Disk().Add(path, "old");
+        Text error;
+        EXPECT_TRUE(WriteFileFull(platform.context, "", path, Pieces({"new"}), error, {true, false, true}));
+        EXPECT_EQ(platform.Disk().files[backup], "old") << path;
     }
 }
 

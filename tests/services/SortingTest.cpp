@@ -204,6 +204,12 @@ TEST(Sorting, StopsAfterAPassWithThePointersAsTheyAre) {
         EXPECT_TRUE(desk.told == expected);
         EXPECT_TRUE(desk.run.StopRequested);
     }
+    // What the host wants is not cleared.
+    Desk desk;
+    desk.pointers = UpTo(8);
+    desk.run.HostStop = true;
+    EXPECT_FALSE(SortNumeric(desk.context, values, desk.pointers, 8, true));
+    EXPECT_TRUE(desk.run.HostStop);
 }
 
 TEST(Sorting, HostilePointersAndCountsDoNoHarm) {

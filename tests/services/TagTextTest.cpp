@@ -174,29 +174,6 @@ TEST(TagText, RemoveDoubleTag) {
     }
 }
 
-TEST(TagText, SearchCount) {
-    struct Row {
-        Text text, phrase;
-        bool matchCase, wholeWords;
-        Long expected;
-    };
-    for (const auto& [text, phrase, matchCase, wholeWords, expected] : std::vector<Row>{
-             {"aaa", "aa", true, false, 2},
-             {"the cat sat", "cat", true, true, 1},
-             {"the cat.", "cat", true, true, 0},
-             {"cats", "cat", true, true, 0},
-             {"cat", "cat", true, true, 1},
-             {"Cat CAT", "cat", true, false, 0},
-             {"Cat CAT", "cat", false, false, 2},
-             {"one\r\n two", "one two", true, false, 1},
-             {"one\ntwo", "onetwo", true, false, 1},
-             {"\xC4\xE4", "\xE4", false, false, 2},
-             {"abc", "", true, false, 0},
-             {" x ", "", true, true, 0},
-         })
-        EXPECT_EQ(SearchCount(text, phrase, matchCase, wholeWords), expected) << text << " | " << phrase;
-}
-
 TEST(TagText, CellNumericValue) {
     struct Row {
         Text cell;

@@ -10,7 +10,8 @@
 
 namespace ostrel::test {
 
-/// The system with one fault: the n-th call fails, writes are short, or the disk is full.
+/// The system with one fault: the n-th call fails, every close or access does, writes are short, or the disk
+/// is full.
 class FaultyCalls final : public SystemCalls {
 public:
     void FailAt(int call, int error) {
@@ -21,6 +22,8 @@ public:
     int count = 0; ///< calls so far
     std::size_t largestWrite = std::numeric_limits<std::size_t>::max();
     std::size_t roomLeft = std::numeric_limits<std::size_t>::max();
+    int closeError = 0;  ///< of every close, or 0
+    int accessError = 0; ///< of every test of access, or 0
     bool unnamedFiles = true;
     bool hardLinks = true;
 
@@ -42,8 +45,8 @@ public:
     }
     int Close(int file) override {
         // What fails to close is closed nevertheless.
-        const bool fails = Fails();
-        const int error = errno;
+        const bool fails = Fails() || closeError;
+        const int error = closeError ? closeError : errno;
         const int result = SystemCalls::Close(file);
         if (!fails) return result;
         errno = error;
@@ -59,7 +62,10 @@ public:
     int FileStatus(int file, struct stat& status) override {
         return Fails() ? -1 : SystemCalls::FileStatus(file, status);
     }
-    int Access(const char* path, int wish) override { return Fails() ? -1 : SystemCalls::Access(path, wish); }
+    int Access(const char* path, int wish) override {
+        if (accessError) return Refuse(accessError);
+        return Fails() ? -1 : SystemCalls::Access(path, wish);
+    }
     ssize_t ReadLink(const char* path, char* buffer, std::size_t size) override {
         return Fails() ? -1 : SystemCalls::ReadLink(path, buffer, size);
     }

@@ -44,9 +44,11 @@ public:
         std::ifstream file(Path(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    std::set<std::string> Names() const {
+    /// What lies in it, or in a folder of it; nothing where that is missing.
+    std::set<std::string> Names(std::string_view folder = {}) const {
         std::set<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(path_))
+        std::error_code missing;
+        for (const auto& entry : std::filesystem::directory_iterator(Path(folder), missing))
             names.insert(entry.path().filename().string());
         return names;
     }

@@ -198,6 +198,39 @@ const std::vector<Family>& Families() {
              Sorted(host, 1);
              host.Options().PageTableColumnExpose.Put(1, true);
          }},
+        {"grouped",
+         [](ReportHost& host) {
+             Prices(host);
+             Sorted(host, 1);
+             Summed(host);
+             TableOptions& options = host.Options();
+             host.cells.Put(4, 2, "");
+             options.PageTableRowGroup = 2;
+             options.PageTableBlankCells = true;
+             options.PageTableOrderUpMark = "&uarr;";
+             options.PageTableOrderDownMark = "&darr;";
+             options.PageTableRecordNumber = true;
+             options.PageTableRecordNumberSort = true;
+             options.PageTableHeaderRepeat = true;
+             options.PageTableTotalGroup = true;
+             options.PageTableTotalSort = true;
+             options.PageTableTotalBreak = true;
+             options.PageTableColumnBreak.Put(1, true);
+             options.PageTableTotalColumn = 2;
+             options.PageTableTotalSortColour = "AQUA";
+         }},
+        {"grouped-links-above",
+         [](ReportHost& host) {
+             Prices(host);
+             host.Options().PageTableColumnTotal.Put(1, true);
+             host.Options().PageTableTotalBreak = true;
+             host.Options().PageTableColumnBreak.Put(2, true);
+             host.Options().PageTableColumnHide.Put(2, true);
+             host.Options().PageTableTotalGroup = true;
+             host.Options().PageTableRowGroup = 3;
+             AddLink(host, "Top", "", true);
+             host.state.headerLinks.show = {true, false, false, false};
+         }},
     };
     return families;
 }
@@ -208,7 +241,11 @@ TEST(ReportFamily, GoldenPages) {
     for (const auto& [name, prepare] : Families()) {
         ReportHost host;
         prepare(host);
+        const std::set<Text> planned = host.FileNames();
         EXPECT_TRUE(host.Make()) << name << ": " << host.error;
+        std::set<Text> made;
+        for (const auto& file : host.files->files) made.insert(file.first.substr(file.first.rfind('\\') + 1));
+        EXPECT_EQ(planned, made) << name;
         ExpectGolden(name + Text(".txt"), host.Family());
     }
 }

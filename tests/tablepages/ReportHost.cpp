@@ -38,13 +38,19 @@ void ReportHost::Hear() {
     });
 }
 
-bool ReportHost::Make() {
-    const tablepages::TableScope scope{PageScopeOf(context, state), state.table, state.headerLinks,
-                                       state.separate};
-    return tablepages::PageCreateTable(
-        scope,
-        {filePath, title, cells.Rows(), cells.Columns(), names, right, CellTable(cells), CellTable(tags)},
-        error);
+bool ReportHost::Make() { return tablepages::PageCreateTable(Scope(), Input(), error); }
+
+std::set<Text> ReportHost::FileNames() {
+    const Array<Text> fileNames = tablepages::FileNames(Scope(), Input());
+    return {fileNames.begin(), fileNames.end()};
+}
+
+tablepages::TableScope ReportHost::Scope() {
+    return {PageScopeOf(context, state), state.table, state.headerLinks, state.separate};
+}
+
+tablepages::TableInput ReportHost::Input() const {
+    return {filePath, title, cells.Rows(), cells.Columns(), names, right, CellTable(cells), CellTable(tags)};
 }
 
 Text ReportHost::Family() const {

@@ -2,12 +2,14 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "control/PageScopeOf.h"
 #include "html/PageParts.h"
 #include "support/MemoryFiles.h"
 #include "tablepages/PageCreateTable.h"
+#include "tablepages/PageNames.h"
 #include "tablepages/TableReset.h"
 
 namespace ostrel::test {
@@ -52,10 +54,16 @@ public:
     void Hear();
 
     bool Make();
+    /// The names of the files that `Make` is going to write.
+    std::set<Text> FileNames();
     /// All files of the folder, each behind a line with its name.
     Text Family() const;
     /// One file of the folder.
     Text Page(const Text& name) const;
+
+private:
+    tablepages::TableScope Scope();
+    tablepages::TableInput Input() const;
 };
 
 /// Compares with a golden file; with OSTREL_UPDATE_GOLDEN set, writes it.

@@ -124,27 +124,31 @@ TEST(ReportRun, ProgressComesOnceAHundredRecords) {
 }
 
 // A stop at any event of the run ends it at the next test, or is too late; a page on disk is always whole.
+// What the host wants holds for the next run as well.
 TEST(ReportRun, StopAtEveryProgressEvent) {
-    int interrupted = 0;
-    for (int at = 1;; ++at) {
-        ReportHost host;
-        host.Table({"A"}, Grid<Text>(250, 1));
-        host.cells.Put(7, 1, "x");
-        host.Options().PageTableColumnSort.Put(1, true);
-        int left = at;
-        bool finished = false;
-        host.events.PageCreateProgress.Listen([&](Text& message, Long&) {
-            if (--left == 0) host.run.StopPressed = true;
-            finished = message == "Finished";
-        });
-        const bool made = host.Make();
-        EXPECT_EQ(made, finished);
-        EXPECT_EQ(host.error, made ? "" : "Interrupted by User");
-        for (const auto& [path, content] : host.files->files) EXPECT_TRUE(content.ends_with("</HTML>"));
-        interrupted += made ? 0 : 1;
-        if (left > 0) break;
+    for (Flag RunFlags::*const flag : {&RunFlags::StopPressed, &RunFlags::HostStop}) {
+        int interrupted = 0;
+        for (int at = 1;; ++at) {
+            ReportHost host;
+            host.Table({"A"}, Grid<Text>(250, 1));
+            host.cells.Put(7, 1, "x");
+            host.Options().PageTableColumnSort.Put(1, true);
+            int left = at;
+            bool finished = false;
+            host.events.PageCreateProgress.Listen([&](Text& message, Long&) {
+                if (--left == 0) host.run.*flag = true;
+                finished = message == "Finished";
+            });
+            const bool made = host.Make();
+            EXPECT_EQ(made, finished);
+            EXPECT_EQ(host.error, made ? "" : "Interrupted by User");
+            for (const auto& [path, content] : host.files->files) EXPECT_TRUE(content.ends_with("</HTML>"));
+            interrupted += made ? 0 : 1;
+            if (left > 0) break;
+            EXPECT_EQ(host.Make(), flag == &RunFlags::StopPressed);
+        }
+        EXPECT_GE(interrupted, 8);
     }
-    EXPECT_GE(interrupted, 8);
 }
 
 TEST(ReportRun, HostSortsByItself) {

@@ -68,6 +68,23 @@ TEST(SeparatePages, PlainFamily) {
     EXPECT_EQ(BrokenLinks(host.ByName()), std::vector<std::string>{});
 }
 
+TEST(SeparatePages, ShownColumnsAlone) {
+    RecordHost host;
+    host.SortBoth();
+    auto& options = host.Options();
+    options.PageTableColumnHide.Put(3, true);
+    options.PageTableSeparateShownOnly = true;
+    options.PageTableExcelShownOnly = true;
+    options.PageTableAddExcel = true;
+    options.PageTableSeparateHeaderField = "Stock";
+    ASSERT_TRUE(host.Make());
+    EXPECT_FALSE(Holds(host.Family(), "Stock"));
+    EXPECT_FALSE(Holds(host.Family(), ">7<"));
+    EXPECT_TRUE(Holds(host.Page("report_Rec_Num_2.htm"), "<B>Record - 2</B>"));
+    EXPECT_TRUE(Holds(host.Page("report_Rec_Num_1.htm"), "Unit Price"));
+    EXPECT_EQ(host.Page("report.csv").substr(0, 22), "Item,Unit Price,Note\r\n");
+}
+
 TEST(SeparatePages, EveryOptionTogether) {
     RecordHost host;
     host.SortBoth();
@@ -279,20 +296,22 @@ TEST(SeparatePages, ANestedReportLeavesTheOuterOneWhole) {
 }
 
 TEST(SeparatePages, AStopIsHeardAtEveryTenthRecord) {
-    RecordHost host;
-    host.cells.Resize(35, 4);
-    host.cells.Put(1, 1, "x");
-    Long made = 0;
-    host.events.PageCreated.Listen([&](Text& path) {
-        made += Holds(path, "_Rec_Num_");
-        if (made == 12) host.run.StopPressed = true;
-    });
-    EXPECT_FALSE(host.Make());
-    EXPECT_EQ(made, 20);
-    EXPECT_EQ(host.error, "Interrupted by User");
-    EXPECT_EQ(host.state.separate.fields, 0);
-    EXPECT_FALSE(host.Page("report_Rec_Num_20.htm").empty());
-    EXPECT_TRUE(host.Page("report_Rec_Num_21.htm").empty());
+    for (Flag RunFlags::*const flag : {&RunFlags::StopPressed, &RunFlags::HostStop}) {
+        RecordHost host;
+        host.cells.Resize(35, 4);
+        host.cells.Put(1, 1, "x");
+        Long made = 0;
+        host.events.PageCreated.Listen([&](Text& path) {
+            made += Holds(path, "_Rec_Num_");
+            if (made == 12) host.run.*flag = true;
+        });
+        EXPECT_FALSE(host.Make());
+        EXPECT_EQ(made, 20);
+        EXPECT_EQ(host.error, "Interrupted by User");
+        EXPECT_EQ(host.state.separate.fields, 0);
+        EXPECT_FALSE(host.Page("report_Rec_Num_20.htm").empty());
+        EXPECT_TRUE(host.Page("report_Rec_Num_21.htm").empty());
+    }
 }
 
 TEST(SeparatePages, PagesThatCannotBeWritten) {

@@ -125,6 +125,21 @@ TEST_F(Forms, WhatIsHiddenOrDisabledCannotBeWorked) {
     EXPECT_EQ(form.heard, "");
 }
 
+TEST_F(Forms, MainTextGoesBackByRunsOfKeys) {
+    RichText& text = form.rtfText;
+    text.Content("0123");
+    text.Select(1, 2);
+    for (const char* key : {"A", "B", "Enter", "C"}) form.Key({key});
+    text.Type(5, 1, {}); // Backspace
+    text.Type(5, 1, {}); // Delete
+    std::vector<Text> seen;
+    const auto look = [&] { seen.push_back(text.Content() + "@" + std::to_string(text.SelStart())); };
+    while (text.Undo()) look();
+    while (text.Redo()) look();
+    EXPECT_EQ(seen, (std::vector<Text>{"0ab\r\nc3@7", "0ab\r\n3@5", "0ab3@3", "0123@3", "0ab3@3",
+                                       "0ab\r\n3@5", "0ab\r\nc3@6", "0ab\r\n@5"}));
+}
+
 TEST_F(Forms, MainTextTakesKeysSelectionAndMenu) {
     Run({{Verb::Set, "rtfText", Text("abcd")},
          {Verb::Menu, "mnuCut", {}},

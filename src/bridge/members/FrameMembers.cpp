@@ -19,6 +19,7 @@ std::vector<Member> BrowserMembers() {
         MEMBER(GoForward, ""),
         MEMBER(GoHome, ""),
         MEMBER(GoSearch, ""),
+        MEMBER(HostStop, "Value"),
         MEMBER(LoadURL, "URL ErrorMessage"),
         MEMBER(LoadURLToTarget, "URL Target ErrorMessage"),
         MEMBER(LocationName, ""),

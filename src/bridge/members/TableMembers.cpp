@@ -30,6 +30,7 @@ std::vector<Member> TableMembers() {
                "FilePath Title NumberRows NumberColumns ColumnNames[NumberColumns] "
                "ColumnRight[NumberColumns] CellValues[NumberRows,NumberColumns] ErrorMessage"),
         MEMBER(PageCreateTableFrom, "FilePath Title ColumnNames ColumnRight Cells ErrorMessage"),
+        MEMBER(PageCreateTableFiles, "FilePath ColumnNames Cells"),
         MEMBER(PageCreateTableMaxSubHeader, ""),
         MEMBER(PageTableHeaderLinksAdd, "Name Link Error ToolTip Right Options Row"),
         MEMBER(PageTableHeaderLinksClear, ""),

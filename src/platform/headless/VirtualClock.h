@@ -5,11 +5,12 @@
 namespace ostrel {
 
 /// A clock that stands still but for `Advance` and for the component's own waits, so that a run repeats to
-/// the byte. It starts at midnight of 1 January 2001.
+/// the byte. Only a sleep with sources takes real time: as long as these are silent, and then its own time
+/// moves on by as much. It starts at midnight of 1 January 2001.
 class VirtualClock final : public Clock {
 public:
     std::uint32_t Ticks() const override { return static_cast<std::uint32_t>(tickOffset_ + now_); }
-    /// From now on the count runs from there; timers and the date do not notice.
+    /// From now on the count runs from there; timers and the date do not notice, waits do.
     void Ticks(std::uint32_t ticks) { tickOffset_ = static_cast<TimerQueue::Moment>(ticks) - now_; }
     Date Now() const override;
 
@@ -19,7 +20,10 @@ public:
     void Post(std::function<void()> work) override { queue_.Post(std::move(work)); }
     bool Pending() const override { return queue_.Due(); }
     void Yield() override { queue_.RunDue(); }
-    void Wait(Long milliseconds) override { Advance(milliseconds); }
+    /// Ends when the tick count says so, which may be set meanwhile.
+    void Wait(Long milliseconds) override;
+    /// Time stands still where a source ends it.
+    bool Sleep(Long longest, std::span<WakeSource> sources) override;
 
     /// Lets that much time pass, from one due moment to the next. What is due at the last one still runs.
     void Advance(Long milliseconds);

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <chrono>
 #include <ctime>
-#include <thread>
 
 #include "platform/native/LocalTime.h"
+#include "platform/native/WaitForSources.h"
 
 namespace ostrel {
 
@@ -27,13 +27,19 @@ Date NativeClock::Now() const { return LocalTime(std::time(nullptr)); }
 
 void NativeClock::Wait(Long milliseconds) {
     const TimerQueue::Moment end = Milliseconds() + milliseconds;
-    for (;;) {
-        queue_.RunDue();
+    do {
+        Sleep(static_cast<Long>(std::max<TimerQueue::Moment>(end - Milliseconds(), 0)), {});
+    } while (Milliseconds() < end);
+}
+
+bool NativeClock::Sleep(Long longest, std::span<WakeSource> sources) {
+    if (!queue_.Due()) {
         const TimerQueue::Moment now = Milliseconds();
-        if (now >= end) return;
-        const TimerQueue::Moment until = std::min(end, queue_.Next().value_or(end));
-        if (until > now) std::this_thread::sleep_for(std::chrono::milliseconds(until - now));
+        const TimerQueue::Moment end = now + longest;
+        if (WaitForSources(sources, std::min(end, queue_.Next().value_or(end)) - now)) return true;
     }
+    queue_.RunDue();
+    return WaitForSources(sources, 0);
 }
 
 } // namespace ostrel

@@ -19,6 +19,7 @@ public:
     bool Pending() const override { return queue_.Due(); }
     void Yield() override { queue_.RunDue(); }
     void Wait(Long milliseconds) override;
+    bool Sleep(Long longest, std::span<WakeSource> sources) override;
 
 private:
     TimerQueue queue_;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+
+namespace ostrel::tables {
+
+/// What is wrong with an input, as one sentence with the place.
+struct InputError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// The host wanted the reading to end.
+struct Interruption {};
+
+/// Whether the host wants the reading to end. Called again and again while an input is read; must not throw.
+/// True ends the reading with an `Interruption`.
+using StopWanted = std::function<bool()>;
+
+} // namespace ostrel::tables
