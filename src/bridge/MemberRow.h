@@ -10,6 +10,8 @@
 #include "bridge/MemberDocs.h"
 #include "bridge/Members.h"
 #include "bridge/Values.h"
+#include "control/OstrelWebHelp.h"
+#include "tablepages/CellTable.h"
 
 namespace ostrel::bridge {
 

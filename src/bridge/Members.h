@@ -6,7 +6,10 @@
 #include <vector>
 
 #include "bridge/JsonText.h"
-#include "control/OstrelWebHelp.h"
+
+namespace ostrel {
+class OstrelWebHelp;
+}
 
 namespace ostrel::bridge {
 

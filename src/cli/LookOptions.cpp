@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "cli/Usage.h"
+#include "control/OstrelWebHelp.h"
 #include "tables/CellText.h"
 #include "tables/ReportStyle.h"
 #include "text/CodePage.h"

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "cli/ReportOptions.h"
-#include "control/OstrelWebHelp.h"
 #include "tables/ReportLook.h"
+
+namespace ostrel {
+class OstrelWebHelp;
+}
 
 namespace ostrel::cli {
 

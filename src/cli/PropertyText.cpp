@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cli/Usage.h"
+#include "control/OstrelWebHelp.h"
 #include "control/PropertyTable.h"
 #include "tables/CellText.h"
 #include "text/CodePage.h"

@@ -2,7 +2,9 @@
 
 #include <string_view>
 
-#include "control/OstrelWebHelp.h"
+namespace ostrel {
+class OstrelWebHelp;
+}
 
 namespace ostrel::cli {
 

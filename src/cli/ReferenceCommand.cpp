@@ -9,6 +9,7 @@
 #include "bridge/Members.h"
 #include "bridge/Values.h"
 #include "control/PropertyTable.h"
+#include "platform/Events.h"
 #include "text/CodePage.h"
 
 namespace ostrel::cli {

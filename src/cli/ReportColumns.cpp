@@ -4,6 +4,7 @@
 #include <set>
 
 #include "cli/Usage.h"
+#include "control/OstrelWebHelp.h"
 #include "tables/CellText.h"
 #include "tables/InputError.h"
 #include "tables/ReportPages.h"

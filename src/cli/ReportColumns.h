@@ -5,8 +5,11 @@
 #include <utility>
 
 #include "cli/ReportOptions.h"
-#include "control/OstrelWebHelp.h"
 #include "tables/InputTable.h"
+
+namespace ostrel {
+class OstrelWebHelp;
+}
 
 namespace ostrel::cli {
 

@@ -6,6 +6,7 @@
 #include "cli/ProgressLine.h"
 #include "cli/ReportOptions.h"
 #include "control/OstrelWebHelp.h"
+#include "platform/Platform.h"
 #include "tables/InputTable.h"
 #include "tables/PageFailures.h"
 #include "tables/PageHeads.h"

@@ -1,11 +1,12 @@
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "control/Version.h"
 #include "ui/AboutForm.h"
 
 namespace ostrel {
 
 void OstrelWebHelp::ShowAboutBox() {
-    Guarded([&] {
+    parts_->guard([&] {
         AboutForm form({.name = "OstrelWebHelp",
                         .major = VersionMajor,
                         .minor = VersionMinor,
@@ -13,20 +14,20 @@ void OstrelWebHelp::ShowAboutBox() {
                         .created = {},
                         .description = "Help pages, reports and HTML for applications.",
                         .disclaimer = {}});
-        form.icon = state_.control.Icon;
-        if (const Screen* screen = context_.platform.screen.get()) {
+        form.icon = parts_->state.control.Icon;
+        if (const Screen* screen = parts_->context.platform.screen.get()) {
             const Bounds place = CentreOnScreen({0, 0, form.width, form.height}, screen->Area());
             form.left = place.left;
             form.top = place.top;
         }
-        form.Show(context_.platform);
+        form.Show(parts_->context.platform);
     });
 }
 
 void OstrelWebHelp::ShowOstrelAboutBox(const Text& ProgramName, Long Major, Long Minor, Long Revision,
                                        const Text& CreationDate, const Text& Description,
                                        const Text& Disclaimer, Long Top, Long Left) {
-    Guarded([&] {
+    parts_->guard([&] {
         AboutForm form({.name = ProgramName,
                         .major = Major,
                         .minor = Minor,
@@ -34,10 +35,10 @@ void OstrelWebHelp::ShowOstrelAboutBox(const Text& ProgramName, Long Major, Long
                         .created = CreationDate,
                         .description = Description,
                         .disclaimer = Disclaimer});
-        form.icon = state_.control.Icon;
+        form.icon = parts_->state.control.Icon;
         form.left = Left;
         form.top = Top;
-        form.Show(context_.platform);
+        form.Show(parts_->context.platform);
     });
 }
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "control/PropertyTable.h"
+#include "control/PropertyValue.h"
 #include "platform/Files.h"
 
 namespace ostrel {

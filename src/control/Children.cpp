@@ -2,22 +2,6 @@
 
 namespace ostrel {
 
-const std::array<DefaultButton, ActionCount> DefaultButtons{{
-    {"back", "cmdBack", "Back", "Move back."},
-    {"forward", "cmdNext", "Forward", "Move forward."},
-    {"stop", "cmdStop2", "Stop", "Stop download."},
-    {"refresh", "cmdRefresh", "Refresh", "Refresh the page."},
-    {"home", "cmdHome", "Home", "Go to the home page."},
-    {"index", "cmdIndex", "Index", "Go to the index page."},
-    {"search", "cmdSearch", "Search", "Search for words and phrases."},
-    {"open", "cmdOpen", "Open", "Open a new page."},
-    {"edit", "cmdEdit", "Edit", "Edit the page."},
-    {"print", "cmdPrint", "Print", "Print the page."},
-    {"properties", "cmdProperties", "Properties", "Display the properties of the page."},
-    {"full", "cmdFull", "Full", "Open the current page in a new browser."},
-    {"close", "cmdClose", "Close", "Close the toolbar."},
-}};
-
 Fields Child::Look() const {
     Fields fields{{"left", left},
                   {"top", top},

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "control/ToolbarAction.h"
 #include "ui/Fields.h"
 
 namespace ostrel {
@@ -40,34 +41,6 @@ struct Child {
     Fields Look() const;
 };
 
-/// One of the thirteen default buttons of the toolbar.
-struct DefaultButton {
-    std::string_view token; ///< in `ToolbarFormat` and for the members
-    std::string_view name;  ///< of the child
-    std::string_view word;  ///< in `ToolbarClick`
-    std::string_view tip;
-};
-
-enum ToolbarAction : int {
-    ActionBack,
-    ActionForward,
-    ActionStop,
-    ActionRefresh,
-    ActionHome,
-    ActionIndex,
-    ActionSearch,
-    ActionOpen,
-    ActionEdit,
-    ActionPrint,
-    ActionProperties,
-    ActionFull,
-    ActionClose,
-    ActionCount
-};
-
-/// In the order of ToolbarAction.
-extern const std::array<DefaultButton, ActionCount> DefaultButtons;
-
 /// All visual children. Both the layout and whoever shows or works the control read the same numbers here.
 /// The sizes that no layout sets are fixed: the glyphs of the toolbar are 16 pixels of 15 twips high, the
 /// address box 19, "Go" is 32 pixels wide, the stop panel 280 by 80.
@@ -95,14 +68,15 @@ public:
     Child& Default(ToolbarAction action) { return *defaults_[static_cast<std::size_t>(action)]; }
     const Child& Default(ToolbarAction action) const { return *defaults_[static_cast<std::size_t>(action)]; }
 
-    /// `cmdButton(number)`, counted from 1; null outside.
+    /// Returns `cmdButton(number)`, counted from 1, or null.
     const Child* UserButton(Long number) const;
     Child* UserButton(Long number) { return const_cast<Child*>(std::as_const(*this).UserButton(number)); }
     Long UserButtons() const { return static_cast<Long>(users_.size()); }
+    /// Makes the next user button, hidden and without a picture.
     Child& AddUserButton();
     void ClearUserButtons() { users_.clear(); }
 
-    /// By its own name, "" being the control; null for none.
+    /// Returns the child of that name, "" being the control, or null.
     const Child* Find(std::string_view name) const;
     Child* Find(std::string_view name) { return const_cast<Child*>(std::as_const(*this).Find(name)); }
     /// Everything but the control itself, from the back to the front.

@@ -1,79 +1,55 @@
-#include "control/ControlFrame.h"
-#include "control/Guard.h"
-#include "control/PaneListener.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "control/PropertyTable.h"
-#include "control/ToolbarLayout.h"
 #include "html/PageParts.h"
 #include "services/FileServices.h"
 
 namespace ostrel {
 
-OstrelWebHelp::OstrelWebHelp(Platform& platform, EventList::AnyListener listener)
-    : context_{events, platform, run_}, frame_(std::make_unique<ControlFrame>()) {
+OstrelWebHelp::OstrelWebHelp(Platform& platform, EventList::AnyListener listener) {
     if (listener) events.ListenToAll(std::move(listener));
-    Guarded([&] {
-        if (platform.clock) {
-            frame_->tmrHelp = platform.clock->MakeTimer([this] { HelpTick(); });
-            frame_->tmrClock = platform.clock->MakeTimer([this] { ClockTick(); });
-        }
+    parts_ = std::make_unique<ControlParts>(*this, events, platform);
+    parts_->guard([&] {
         ExtractReset();
-        frame_->listener = std::make_unique<PaneListener>(*this);
-        if (Pane()) Pane()->Listen(frame_->listener.get());
-        NavigatePane("about:blank");
-        Trace("Web Help - Initialise");
+        parts_->navigator.Navigate("about:blank");
+        events.StatusTextChange.Tell("Web Help - Initialise");
     });
 }
 
-OstrelWebHelp::~OstrelWebHelp() {
-    Terminate();
-    if (Pane()) Pane()->Listen(nullptr);
-}
-
-void OstrelWebHelp::Trace(TextView line) { events.StatusTextChange.Tell(Text(line)); }
+OstrelWebHelp::~OstrelWebHelp() { Terminate(); }
 
 void OstrelWebHelp::InitProperties() {
-    Guarded([&] {
+    parts_->guard([&] {
         for (const PropertyRow& row : AllProperties()) {
-            if (!row.Indexed()) StoreStraight(row, DefaultOf(row));
-            for (Long index = 1; index <= row.limit; ++index) row.store(state_, index, row.fallback);
+            if (!row.Indexed()) row.store(*parts_, 0, DefaultOf(row, parts_->Disk()));
+            for (Long index = 1; index <= row.limit; ++index) row.store(*parts_, index, row.fallback);
         }
-        if (frame_->tmrClock) frame_->tmrClock->Stop();
-        html::HelpPageInitialise(state_.help);
+        parts_->clock.Silence();
+        html::HelpPageInitialise(parts_->state.help);
         PageReset();
-        Children& children = frame_->children;
+        Children& children = parts_->children;
         children.lblURL.visible = children.cmdURL.visible = children.txtURL.visible = false;
         children.txtURL.text.clear();
-        Trace("Web Help - Init Properties");
+        events.StatusTextChange.Tell("Web Help - Init Properties");
     });
 }
 
-void OstrelWebHelp::Resize() {
-    Guarded([&] {
-        LayOutControl(*frame_, {.properties = state_.toolbar,
-                                .indexPage = state_.control.IndexPage,
-                                .searchLocation = state_.search.SearchLocation,
-                                .screen = context_.platform.screen.get()});
-        Trace("Web Help - Resize");
-    });
-}
+void OstrelWebHelp::Resize() { parts_->layout.Resize(); }
 
 void OstrelWebHelp::ResizeTo(Long Width, Long Height) {
-    Guarded([&] {
-        frame_->children.control.width = Width;
-        frame_->children.control.height = Height;
-        Resize();
+    parts_->guard([&] {
+        parts_->children.control.width = Width;
+        parts_->children.control.height = Height;
+        parts_->layout.Resize();
     });
 }
 
 void OstrelWebHelp::Terminate() {
-    if (terminated_) return;
-    terminated_ = true;
-    Guarded([&] {
-        if (context_.platform.files) services::WorkFilesKill(*context_.platform.files, state_.service);
-        Trace("Web Help - Terminate");
+    if (std::exchange(parts_->terminated, true)) return;
+    parts_->guard([&] {
+        services::WorkFilesKill(parts_->Disk(), parts_->state.service);
+        events.StatusTextChange.Tell("Web Help - Terminate");
     });
 }
-
-const Children& OstrelWebHelp::View() const { return frame_->children; }
 
 } // namespace ostrel

@@ -1,137 +1,125 @@
-#include "control/ControlFrame.h"
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "text/NumberText.h"
 
 namespace ostrel {
 
 namespace {
 
-constexpr Long CurrentUser = -2147483647;
 constexpr Long TextType = 1;
 constexpr TextView BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer\\";
 
 } // namespace
 
-void OstrelWebHelp::FocusPane() {
-    if (Pane()) Pane()->Focus();
-}
-
-void OstrelWebHelp::NavigatePane(const Text& url) {
-    if (Pane()) Pane()->Navigate(url);
-}
-
-void OstrelWebHelp::RefreshPane(Long level) {
-    if (Pane()) Pane()->Refresh2(level);
-    frame_->children.Default(ActionStop).enabled = true;
-    frame_->children.Default(ActionRefresh).enabled = false;
-    frame_->pane.PendingRefresh = true;
-}
-
 Flag OstrelWebHelp::LoadURL(const Text& URL, Text& ErrorMessage) {
-    return Guarded([&]() -> Flag {
+    return parts_->guard([&]() -> Flag {
         ErrorMessage.clear();
-        if (URL.empty()) {
-            ErrorMessage = "No URL defined.";
-            return false;
-        }
-        ClockStart();
-        frame_->help.HelpNavigation = false;
-        if (URL != LocationURL()) NavigatePane(URL);
-        return true;
+        return parts_->navigator.Load(URL, ErrorMessage);
     });
 }
 
 Flag OstrelWebHelp::LoadURLToTarget(const Text& URL, const Text& Target, Text& ErrorMessage) {
-    return Guarded([&]() -> Flag {
+    return parts_->guard([&]() -> Flag {
         ErrorMessage.clear();
-        if (URL.empty())
-            ErrorMessage = "No URL defined.";
-        else if (Target.empty())
-            ErrorMessage = "No Target defined.";
-        if (!ErrorMessage.empty()) return false;
-        if (Pane()) Pane()->Navigate(URL, Target);
-        return true;
+        return parts_->navigator.LoadToTarget(URL, Target, ErrorMessage);
     });
 }
 
 Flag OstrelWebHelp::GoBack() {
-    return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoBack();
+    return parts_->guard([&]() -> Flag {
+        parts_->Pane().GoBack();
         return true;
     });
 }
 
 Flag OstrelWebHelp::GoForward() {
-    return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoForward();
+    return parts_->guard([&]() -> Flag {
+        parts_->Pane().GoForward();
         return true;
     });
 }
 
 Flag OstrelWebHelp::GoHome() {
-    return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoHome();
+    return parts_->guard([&]() -> Flag {
+        parts_->Pane().GoHome();
         return true;
     });
 }
 
 Flag OstrelWebHelp::GoSearch() {
-    return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoSearch();
+    return parts_->guard([&]() -> Flag {
+        parts_->Pane().GoSearch();
         return true;
     });
 }
 
 void OstrelWebHelp::Cancel() {
-    Guarded([&] {
-        events.StatusTextChange.Tell("Cancel...");
-        if (Pane()) Pane()->Stop();
-        run_.StopRequested = true;
-    });
+    parts_->guard([&] { parts_->navigator.Cancel(); });
 }
 
-Flag OstrelWebHelp::Busy() { return Pane() && Pane()->Busy(); }
+Flag OstrelWebHelp::Busy() {
+    return parts_->guard([&]() -> Flag { return parts_->Pane().Busy(); });
+}
 
-Long OstrelWebHelp::ReadyState() { return Pane() ? Pane()->ReadyState() : 0; }
+Long OstrelWebHelp::ReadyState() {
+    return parts_->guard([&] { return static_cast<Long>(parts_->Pane().ReadyState()); });
+}
 
 void OstrelWebHelp::Refresh() {
-    Guarded([&] { RefreshPane(0); });
+    parts_->guard([&] { parts_->navigator.Refresh(RefreshLevel::Plain); });
 }
 
 void OstrelWebHelp::RefreshCompletely() {
-    Guarded([&] { RefreshPane(3); });
+    parts_->guard([&] { parts_->navigator.Refresh(RefreshLevel::Completely); });
 }
 
 void OstrelWebHelp::RefreshIfExpired() {
-    Guarded([&] { RefreshPane(1); });
+    parts_->guard([&] { parts_->navigator.Refresh(RefreshLevel::IfExpired); });
 }
 
-Text OstrelWebHelp::LocationName() { return Pane() ? Pane()->LocationName() : Text(); }
+Text OstrelWebHelp::LocationName() {
+    return parts_->guard([&] { return parts_->Pane().LocationName(); });
+}
 
-Text OstrelWebHelp::LocationURL() { return Pane() ? Pane()->LocationURL() : Text(); }
+Text OstrelWebHelp::LocationURL() {
+    return parts_->guard([&] { return parts_->Pane().LocationURL(); });
+}
 
-Long OstrelWebHelp::BrowserLeft() { return frame_->children.brwBrowser.left; }
+Long OstrelWebHelp::BrowserLeft() {
+    return parts_->guard([&] { return parts_->children.brwBrowser.left; });
+}
 
-Long OstrelWebHelp::BrowserTop() { return frame_->children.brwBrowser.top; }
+Long OstrelWebHelp::BrowserTop() {
+    return parts_->guard([&] { return parts_->children.brwBrowser.top; });
+}
 
-Text OstrelWebHelp::BrowserGetHeader() { return BrowserGetSetting("PageSetup", "header"); }
+Text OstrelWebHelp::BrowserGetHeader() {
+    return parts_->guard([&] { return BrowserGetSetting("PageSetup", "header"); });
+}
 
-Text OstrelWebHelp::BrowserGetFooter() { return BrowserGetSetting("PageSetup", "footer"); }
+Text OstrelWebHelp::BrowserGetFooter() {
+    return parts_->guard([&] { return BrowserGetSetting("PageSetup", "footer"); });
+}
 
-void OstrelWebHelp::BrowserSetHeader(const Text& Value) { BrowserSetSetting("PageSetup", "header", Value); }
+void OstrelWebHelp::BrowserSetHeader(const Text& Value) {
+    parts_->guard([&] { BrowserSetSetting("PageSetup", "header", Value); });
+}
 
-void OstrelWebHelp::BrowserSetFooter(const Text& Value) { BrowserSetSetting("PageSetup", "footer", Value); }
+void OstrelWebHelp::BrowserSetFooter(const Text& Value) {
+    parts_->guard([&] { BrowserSetSetting("PageSetup", "footer", Value); });
+}
 
 Text OstrelWebHelp::BrowserGetSetting(const Text& KeyName, const Text& ValueName) {
-    return Guarded([&]() -> Text {
-        const Variant value = QueryValue(CurrentUser, Text(BrowserKey) + KeyName, ValueName);
+    return parts_->guard([&]() -> Text {
+        const Variant value = QueryValue(CurrentUserArea, Text(BrowserKey) + KeyName, ValueName);
         const Text* text = std::get_if<Text>(&value);
         return text ? *text : FromDouble(std::get<Double>(value));
     });
 }
 
 void OstrelWebHelp::BrowserSetSetting(const Text& KeyName, const Text& ValueName, const Text& Value) {
-    Guarded([&] { SetKeyValue(CurrentUser, Text(BrowserKey) + KeyName, ValueName, Value, TextType); });
+    parts_->guard(
+        [&] { SetKeyValue(CurrentUserArea, Text(BrowserKey) + KeyName, ValueName, Value, TextType); });
 }
 
 } // namespace ostrel

@@ -1,30 +1,31 @@
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "services/Colours.h"
 
 namespace ostrel {
 
 Text OstrelWebHelp::ColourActualToHex(Long Colour) {
-    return Guarded([&] { return services::ColourActualToHex(Colour); });
+    return parts_->guard([&] { return services::ColourActualToHex(Colour); });
 }
 
 Text OstrelWebHelp::ColourActualToName(Long Colour) {
-    return Guarded([&] { return services::ColourActualToName(Colour); });
+    return parts_->guard([&] { return services::ColourActualToName(Colour); });
 }
 
 Long OstrelWebHelp::ColourHexToActual(const Text& Colour) {
-    return Guarded([&] { return services::ColourHexToActual(Colour); });
+    return parts_->guard([&] { return services::ColourHexToActual(Colour); });
 }
 
 Text OstrelWebHelp::ColourHexToName(const Text& Colour) {
-    return Guarded([&] { return services::ColourHexToName(Colour); });
+    return parts_->guard([&] { return services::ColourHexToName(Colour); });
 }
 
 Text OstrelWebHelp::ColourNameToHex(const Text& Colour) {
-    return Guarded([&] { return services::ColourNameToHex(Colour); });
+    return parts_->guard([&] { return services::ColourNameToHex(Colour); });
 }
 
 Long OstrelWebHelp::ColourNameToActual(const Text& Colour) {
-    return Guarded([&] { return services::ColourNameToActual(Colour); });
+    return parts_->guard([&] { return services::ColourNameToActual(Colour); });
 }
 
 } // namespace ostrel

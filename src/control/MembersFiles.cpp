@@ -1,4 +1,5 @@
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "services/CsvText.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
@@ -6,181 +7,177 @@
 namespace ostrel {
 
 Text OstrelWebHelp::BuildPath(const Text& Directory, const Text& File) {
-    return Guarded([&] { return services::BuildPath(Directory, File); });
+    return parts_->guard([&] { return services::BuildPath(Directory, File); });
 }
 
 Flag OstrelWebHelp::DirectoryChange(const Text& Directory, Text& ErrorMessage) {
-    return Guarded(
-        [&] { return services::DirectoryChange(*context_.platform.files, Directory, ErrorMessage); });
+    return parts_->guard([&] { return services::DirectoryChange(parts_->Disk(), Directory, ErrorMessage); });
 }
 
 Flag OstrelWebHelp::DirectoryExists(const Text& Directory) {
-    return Guarded([&] { return services::DirectoryExists(*context_.platform.files, Directory); });
+    return parts_->guard([&] { return services::DirectoryExists(parts_->Disk(), Directory); });
 }
 
 Flag OstrelWebHelp::DirectoryMake(const Text& Directory, Text& ErrorMessage) {
-    return Guarded(
-        [&] { return services::DirectoryMake(*context_.platform.files, Directory, ErrorMessage); });
+    return parts_->guard([&] { return services::DirectoryMake(parts_->Disk(), Directory, ErrorMessage); });
 }
 
 Text OstrelWebHelp::ErrorMessageDoesNotExist(const Text& argMessage, const Text& argFile) {
-    return Guarded([&] { return services::ErrorMessageDoesNotExist(argMessage, argFile); });
+    return parts_->guard([&] { return services::ErrorMessageDoesNotExist(argMessage, argFile); });
 }
 
 Text OstrelWebHelp::ErrorMessageNotDefined(const Text& argMessage) {
-    return Guarded([&] { return services::ErrorMessageNotDefined(argMessage); });
+    return parts_->guard([&] { return services::ErrorMessageNotDefined(argMessage); });
 }
 
 Text OstrelWebHelp::ErrorMessageShortenFile(const Text& Message1, const Text& FilePath,
                                             const Text& Message2) {
-    return Guarded([&] { return services::ErrorMessageShortenFile(Message1, FilePath, Message2); });
+    return parts_->guard([&] { return services::ErrorMessageShortenFile(Message1, FilePath, Message2); });
 }
 
 Text OstrelWebHelp::FileDirectory(const Text& FilePath) {
-    return Guarded([&] { return services::FileDirectory(FilePath); });
+    return parts_->guard([&] { return services::FileDirectory(FilePath); });
 }
 
 Text OstrelWebHelp::FileExtension(const Text& FilePath) {
-    return Guarded([&] { return services::FileExtension(FilePath); });
+    return parts_->guard([&] { return services::FileExtension(FilePath); });
 }
 
 Text OstrelWebHelp::FileExtensionChange(const Text& FilePath, const Text& Extension) {
-    return Guarded([&] { return services::FileExtensionChange(FilePath, Extension); });
+    return parts_->guard([&] { return services::FileExtensionChange(FilePath, Extension); });
 }
 
 Flag OstrelWebHelp::FileHTML(const Text& FilePath) {
-    return Guarded([&] { return services::FileHTML(*context_.platform.files, FilePath); });
+    return parts_->guard([&] { return services::FileHTML(parts_->Disk(), FilePath); });
 }
 
 Flag OstrelWebHelp::FileInternet(const Text& FilePath) {
-    return Guarded([&] { return services::FileInternet(FilePath); });
+    return parts_->guard([&] { return services::FileInternet(FilePath); });
 }
 
 Text OstrelWebHelp::FileName(const Text& FilePath) {
-    return Guarded([&] { return services::FileName(FilePath); });
+    return parts_->guard([&] { return services::FileName(FilePath); });
 }
 
 Text OstrelWebHelp::FileNameOnly(const Text& FilePath) {
-    return Guarded([&] { return services::FileNameOnly(FilePath); });
+    return parts_->guard([&] { return services::FileNameOnly(FilePath); });
 }
 
 Text OstrelWebHelp::FilePathFromURL(const Text& FilePath) {
-    return Guarded([&] { return services::FilePathFromURL(FilePath); });
+    return parts_->guard([&] { return services::FilePathFromURL(FilePath); });
 }
 
 Text OstrelWebHelp::FilePathFromURLCharacters(const Text& FilePath, Flag ConvertSlashes) {
-    return Guarded([&] { return services::FilePathFromURLCharacters(FilePath, ConvertSlashes); });
+    return parts_->guard([&] { return services::FilePathFromURLCharacters(FilePath, ConvertSlashes); });
 }
 
 Text OstrelWebHelp::FilePathShorten(const Text& FilePath, const Text& Delimiter, Long MaxLength,
                                     Long StartKeep, Long SlashesStart, Long SlashesEnd) {
-    return Guarded([&] {
+    return parts_->guard([&] {
         return services::FilePathShorten(FilePath, Delimiter, MaxLength, StartKeep, SlashesStart, SlashesEnd);
     });
 }
 
 Text OstrelWebHelp::FilePathSimplify(const Text& FilePath, const Text& Directory) {
-    return Guarded([&] { return services::FilePathSimplify(FilePath, Directory); });
+    return parts_->guard([&] { return services::FilePathSimplify(FilePath, Directory); });
 }
 
 Flag OstrelWebHelp::FileRename(const Text& FilePath, const Text& NewName, Text& ErrorMessage) {
-    return Guarded(
-        [&] { return services::FileRename(*context_.platform.files, FilePath, NewName, ErrorMessage); });
+    return parts_->guard(
+        [&] { return services::FileRename(parts_->Disk(), FilePath, NewName, ErrorMessage); });
 }
 
 Text OstrelWebHelp::FormatErrorMessage(Long ErrorNumber) {
-    return Guarded([&] { return services::FormatErrorMessage(*context_.platform.files, ErrorNumber); });
+    return parts_->guard([&] { return services::FormatErrorMessage(parts_->Disk(), ErrorNumber); });
 }
 
 Flag OstrelWebHelp::KillFile(const Text& FilePath, Text& ErrorMessage) {
-    return Guarded([&] { return services::KillFile(*context_.platform.files, FilePath, ErrorMessage); });
+    return parts_->guard([&] { return services::KillFile(parts_->Disk(), FilePath, ErrorMessage); });
 }
 
 Flag OstrelWebHelp::KillFiles(const Text& FilePath, Text& ErrorMessage, Flag NotExistError,
                               Flag ClearAttributes) {
-    return Guarded([&] {
-        return services::KillFiles(*context_.platform.files, FilePath, ErrorMessage, NotExistError,
-                                   ClearAttributes);
+    return parts_->guard([&] {
+        return services::KillFiles(parts_->Disk(), FilePath, ErrorMessage, NotExistError, ClearAttributes);
     });
 }
 
 Flag OstrelWebHelp::KillSelectedFiles(const Text& Mask, Text& ErrorMessage) {
-    return Guarded(
-        [&] { return services::KillFiles(*context_.platform.files, Mask, ErrorMessage, true, false); });
+    return parts_->guard(
+        [&] { return services::KillFiles(parts_->Disk(), Mask, ErrorMessage, true, false); });
 }
 
 Flag OstrelWebHelp::KillTempFiles(const Text& TempTag, Text& ErrorMessage) {
-    return Guarded([&] { return services::KillTempFiles(*context_.platform.files, TempTag, ErrorMessage); });
+    return parts_->guard([&] { return services::KillTempFiles(parts_->Disk(), TempTag, ErrorMessage); });
 }
 
 Text OstrelWebHelp::LastFileError() {
-    return Guarded([&] { return state_.LastFileError; });
+    return parts_->guard([&] { return parts_->state.lastFileError; });
 }
 
 Text OstrelWebHelp::ReadFile(const Text& FilePath) {
-    return Guarded(
-        [&] { return services::ReadFile(*context_.platform.files, FilePath, state_.LastFileError); });
+    return parts_->guard(
+        [&] { return services::ReadFile(parts_->Disk(), FilePath, parts_->state.lastFileError); });
 }
 
 Text OstrelWebHelp::RemoveLastBackslash(const Text& InputString) {
-    return Guarded([&] { return services::RemoveLastBackslash(InputString); });
+    return parts_->guard([&] { return services::RemoveLastBackslash(InputString); });
 }
 
 Text OstrelWebHelp::RemoveLastSlash(const Text& InputString) {
-    return Guarded([&] { return services::RemoveLastSlash(InputString); });
+    return parts_->guard([&] { return services::RemoveLastSlash(InputString); });
 }
 
 Text OstrelWebHelp::WinTempFile(const Text& TempTag, const Text& DefaultFile) {
-    return Guarded([&] { return services::WinTempFile(*context_.platform.files, TempTag, DefaultFile); });
+    return parts_->guard([&] { return services::WinTempFile(parts_->Disk(), TempTag, DefaultFile); });
 }
 
 Text OstrelWebHelp::WinTempPath() {
-    return Guarded([&] { return services::WinTempPath(*context_.platform.files); });
+    return parts_->guard([&] { return services::WinTempPath(parts_->Disk()); });
 }
 
 void OstrelWebHelp::WorkFileNextIncrement() {
-    Guarded([&] { services::WorkFileNextIncrement(state_.service); });
+    parts_->guard([&] { services::WorkFileNextIncrement(parts_->state.service); });
 }
 
 Text OstrelWebHelp::WorkFilePath(Long FileNumber) {
-    return Guarded([&] { return services::WorkFilePath(state_.service, FileNumber); });
+    return parts_->guard([&] { return services::WorkFilePath(parts_->state.service, FileNumber); });
 }
 
 void OstrelWebHelp::WorkFilesKill() {
-    Guarded([&] { services::WorkFilesKill(*context_.platform.files, state_.service); });
+    parts_->guard([&] { services::WorkFilesKill(parts_->Disk(), parts_->state.service); });
 }
 
 Flag OstrelWebHelp::WriteFile(const Text& FilePath, const Text& Output, Text& ErrorMessage) {
-    return Guarded(
-        [&] { return services::WriteFile(*context_.platform.files, FilePath, Output, ErrorMessage); });
+    return parts_->guard([&] { return services::WriteFile(parts_->Disk(), FilePath, Output, ErrorMessage); });
 }
 
 Text OstrelWebHelp::WriteFileCSVValue(const Text& Value, const Text& Delimiter) {
-    return Guarded([&] { return services::WriteFileCSVValue(Value, Delimiter); });
+    return parts_->guard([&] { return services::WriteFileCSVValue(Value, Delimiter); });
 }
 
 Flag OstrelWebHelp::WriteFileFromCSVDatabase(const Text& FilePath, const Array<Text>& FieldNames,
                                              const Grid<Text>& FieldValues, Long NumberRecords,
                                              Long NumberFields, Text& ErrorMessage, const Text& Delimiter,
                                              Flag CreateBackup) {
-    return Guarded([&] {
+    return parts_->guard([&] {
         const auto cell = [&](Long record, Long field) {
             const Text* value = FieldValues.Find(record, field);
             return value ? TextView(*value) : TextView();
         };
         LargeBuffer room;
-        return services::WriteCsvFile(context_, state_.service.ProgramName, FilePath, FieldNames, cell,
-                                      NumberRecords, NumberFields, ErrorMessage, Delimiter, CreateBackup,
-                                      room);
+        return services::WriteCsvFile(parts_->context, parts_->state.service.ProgramName, FilePath,
+                                      FieldNames, cell, NumberRecords, NumberFields, ErrorMessage, Delimiter,
+                                      CreateBackup, room);
     });
 }
 
 Flag OstrelWebHelp::WriteFileFull(const Text& Title, const Text& FilePath, const Text& Output,
                                   Text& ErrorMessage, Flag CreateBackup, Flag AskOverwrite, Flag Overwrite) {
-    return Guarded([&] {
+    return parts_->guard([&] {
         Rope text;
         text.Append(nullptr, Output);
-        return services::WriteFileFull(context_, Title, FilePath, text, ErrorMessage,
+        return services::WriteFileFull(parts_->context, Title, FilePath, text, ErrorMessage,
                                        {CreateBackup, AskOverwrite, Overwrite});
     });
 }

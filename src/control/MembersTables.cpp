@@ -1,5 +1,5 @@
-#include "control/Guard.h"
-#include "control/PageScopeOf.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "tablepages/PageCreateTable.h"
 #include "tablepages/PageNames.h"
 
@@ -7,8 +7,9 @@ namespace ostrel {
 
 namespace {
 
-tablepages::TableScope ScopeOf(State& state, Context& context) {
-    return {PageScopeOf(context, state), state.table, state.headerLinks, state.separate};
+tablepages::TableScope ScopeOf(ControlParts& parts) {
+    State& state = parts.state;
+    return {parts.PageScope(), state.table, state.headerLinks, state.separate};
 }
 
 } // namespace
@@ -17,8 +18,8 @@ Flag OstrelWebHelp::PageCreateTable(const Text& FilePath, const Text& Title, Lon
                                     Long NumberColumns, const Array<Text>& ColumnNames,
                                     const Array<Flag>& ColumnRight, const Grid<Text>& CellValues,
                                     const Grid<Text>& CellTags, Text& ErrorMessage) {
-    return Guarded([&]() -> Flag {
-        return tablepages::PageCreateTable(ScopeOf(state_, context_),
+    return parts_->guard([&]() -> Flag {
+        return tablepages::PageCreateTable(ScopeOf(*parts_),
                                            {FilePath, Title, NumberRows, NumberColumns, ColumnNames,
                                             ColumnRight, CellTable(CellValues), CellTable(CellTags)},
                                            ErrorMessage);
@@ -36,9 +37,9 @@ Flag OstrelWebHelp::PageCreateTableNoTags(const Text& FilePath, const Text& Titl
 Flag OstrelWebHelp::PageCreateTableFrom(const Text& FilePath, const Text& Title,
                                         const Array<Text>& ColumnNames, const Array<Flag>& ColumnRight,
                                         const CellTable& Cells, Text& ErrorMessage) {
-    return Guarded([&]() -> Flag {
+    return parts_->guard([&]() -> Flag {
         return tablepages::PageCreateTable(
-            ScopeOf(state_, context_),
+            ScopeOf(*parts_),
             {FilePath, Title, Cells.Rows(), Cells.Columns(), ColumnNames, ColumnRight, Cells, {}},
             ErrorMessage);
     });
@@ -46,43 +47,43 @@ Flag OstrelWebHelp::PageCreateTableFrom(const Text& FilePath, const Text& Title,
 
 Array<Text> OstrelWebHelp::PageCreateTableFiles(const Text& FilePath, const Array<Text>& ColumnNames,
                                                 const CellTable& Cells) {
-    return Guarded([&] {
+    return parts_->guard([&] {
         return tablepages::FileNames(
-            ScopeOf(state_, context_),
-            {FilePath, {}, Cells.Rows(), Cells.Columns(), ColumnNames, {}, Cells, {}});
+            ScopeOf(*parts_), {FilePath, {}, Cells.Rows(), Cells.Columns(), ColumnNames, {}, Cells, {}});
     });
 }
 
 Long OstrelWebHelp::PageCreateTableMaxSubHeader() {
-    return Guarded([&] { return state_.headerLinks.MaxRow(); });
+    return parts_->guard([&] { return parts_->state.headerLinks.MaxRow(); });
 }
 
 Flag OstrelWebHelp::PageTableHeaderLinksAdd(const Text& Name, const Text& Link, Text& Error,
                                             const Text& ToolTip, Flag Right, Long Options, Long Row) {
-    return Guarded([&]() -> Flag {
-        return state_.headerLinks.Add({Name, Link, ToolTip, Right, Row, Options}, Error);
+    return parts_->guard([&]() -> Flag {
+        return parts_->state.headerLinks.Add({Name, Link, ToolTip, Right, Row, Options}, Error);
     });
 }
 
 void OstrelWebHelp::PageTableHeaderLinksClear() {
-    Guarded([&] { state_.headerLinks.Clear(); });
+    parts_->guard([&] { parts_->state.headerLinks.Clear(); });
 }
 
 Flag OstrelWebHelp::PageTableHeaderLinksFormat(Long Row, Long Position, const Text& Size, Flag Bold,
                                                Flag Italic, const Text& NoLinkColour, Flag CentreAll) {
-    return Guarded([&]() -> Flag {
-        return state_.headerLinks.AddFormat({Row, Position, Size, Bold, Italic, NoLinkColour, CentreAll});
+    return parts_->guard([&]() -> Flag {
+        return parts_->state.headerLinks.AddFormat(
+            {Row, Position, Size, Bold, Italic, NoLinkColour, CentreAll});
     });
 }
 
 void OstrelWebHelp::PageTableHeaderLinksShow(Flag Above, Flag Below, Flag AboveRepeat, Flag BelowRepeat) {
-    Guarded([&] { state_.headerLinks.show = {Above, Below, AboveRepeat, BelowRepeat}; });
+    parts_->guard([&] { parts_->state.headerLinks.show = {Above, Below, AboveRepeat, BelowRepeat}; });
 }
 
 void OstrelWebHelp::PageTableHeaderNavNames(const Text& FirstName, const Text& PreviousName,
                                             const Text& NextName, const Text& LastName, const Text& AllName) {
-    Guarded([&] {
-        HeaderLinks& links = state_.headerLinks;
+    parts_->guard([&] {
+        HeaderLinks& links = parts_->state.headerLinks;
         links.firstName = FirstName;
         links.previousName = PreviousName;
         links.nextName = NextName;

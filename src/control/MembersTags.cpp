@@ -1,4 +1,5 @@
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "services/PreparedSearch.h"
 #include "services/TagExtraction.h"
 #include "services/TagText.h"
@@ -7,96 +8,100 @@ namespace ostrel {
 
 Long OstrelWebHelp::ExtractAllDoubleTagValues(const Text& InputString, const Text& TagName,
                                               const Text& TagAttribute, Array<Text>& Values, Long MaxValues) {
-    return Guarded([&] {
+    return parts_->guard([&] {
         return services::ExtractAllDoubleTagValues(InputString, TagName, TagAttribute, Values, MaxValues,
-                                                   state_.ExtractRemain);
+                                                   parts_->state.extractRemain);
     });
 }
 
 Long OstrelWebHelp::ExtractAllSingleTagValues(const Text& InputString, const Text& TagName,
                                               const Text& TagAttribute, Array<Text>& Values, Long MaxValues) {
-    return Guarded([&] {
+    return parts_->guard([&] {
         return services::ExtractAllSingleTagValues(InputString, TagName, TagAttribute, Values, MaxValues,
-                                                   state_.ExtractRemain);
+                                                   parts_->state.extractRemain);
     });
 }
 
 Text OstrelWebHelp::ExtractDoubleTag(const Text& InputString, const Text& Tag, Flag TrimOutput,
                                      Flag IncludeTag) {
-    return Guarded([&] {
-        return services::ExtractDoubleTag(InputString, Tag, TrimOutput, IncludeTag, state_.ExtractRemain);
+    return parts_->guard([&] {
+        return services::ExtractDoubleTag(InputString, Tag, TrimOutput, IncludeTag,
+                                          parts_->state.extractRemain);
     });
 }
 
 Text OstrelWebHelp::ExtractMetaTag(const Text& InputString, const Text& Tag) {
-    return Guarded([&] { return services::ExtractMetaTag(InputString, Tag, state_.ExtractRemain); });
+    return parts_->guard(
+        [&] { return services::ExtractMetaTag(InputString, Tag, parts_->state.extractRemain); });
 }
 
 Flag OstrelWebHelp::ExtractMetaTagValues(const Text& Tag, Text& Name, Text& Content) {
-    return Guarded([&] { return services::ExtractMetaTagValues(Tag, Name, Content); });
+    return parts_->guard([&] { return services::ExtractMetaTagValues(Tag, Name, Content); });
 }
 
 Text OstrelWebHelp::ExtractRemain() {
-    return Guarded([&] { return state_.ExtractRemain; });
+    return parts_->guard([&] { return parts_->state.extractRemain; });
 }
 
 void OstrelWebHelp::ExtractReset() {
-    Guarded([&] { state_.ExtractRemain.clear(); });
+    parts_->guard([&] { parts_->state.extractRemain.clear(); });
 }
 
 Text OstrelWebHelp::ExtractSingleTag(const Text& InputString, const Text& Tag, Flag TrimOutput,
                                      Flag IncludeTag) {
-    return Guarded([&] {
-        return services::ExtractSingleTag(InputString, Tag, TrimOutput, IncludeTag, state_.ExtractRemain);
+    return parts_->guard([&] {
+        return services::ExtractSingleTag(InputString, Tag, TrimOutput, IncludeTag,
+                                          parts_->state.extractRemain);
     });
 }
 
 Text OstrelWebHelp::ExtractTag(const Text& InputString) {
-    return Guarded([&] { return services::ExtractTag(InputString, state_.ExtractRemain); });
+    return parts_->guard([&] { return services::ExtractTag(InputString, parts_->state.extractRemain); });
 }
 
 Text OstrelWebHelp::ExtractTagValue(const Text& InputString, const Text& Name) {
-    return Guarded([&] { return services::ExtractTagValue(InputString, Name); });
+    return parts_->guard([&] { return services::ExtractTagValue(InputString, Name); });
 }
 
 Long OstrelWebHelp::ExtractTagValues(const Text& InputString, Array<Text>& Names, Array<Text>& Values,
                                      Long MaxValues) {
-    return Guarded([&] { return services::ExtractTagValues(InputString, Names, Values, MaxValues); });
+    return parts_->guard([&] { return services::ExtractTagValues(InputString, Names, Values, MaxValues); });
 }
 
 Double OstrelWebHelp::CellNumericValue(const Text& InputString) {
-    return Guarded([&] { return services::CellNumericValue(InputString); });
+    return parts_->guard([&] { return services::CellNumericValue(InputString); });
 }
 
 Long OstrelWebHelp::CellTimeSeconds(const Text& InputString) {
-    return Guarded([&] { return services::CellTimeSeconds(InputString); });
+    return parts_->guard([&] { return services::CellTimeSeconds(InputString); });
 }
 
 Text OstrelWebHelp::ExtractContent(const Text& InputString, Flag RemoveDouble, Flag RemoveSpecials) {
-    return Guarded([&] { return services::ExtractContent(InputString, RemoveDouble, RemoveSpecials); });
+    return parts_->guard([&] { return services::ExtractContent(InputString, RemoveDouble, RemoveSpecials); });
 }
 
 Text OstrelWebHelp::NormaliseSearchText(const Text& InputString) {
-    return Guarded([&] { return services::NormaliseSearchText(InputString); });
+    return parts_->guard([&] { return services::NormaliseSearchText(InputString); });
 }
 
 Text OstrelWebHelp::RemoveBetweenTags(const Text& InputString, const Text& Tag, const Text& TagEnd,
                                       Flag TrimBlanks) {
-    return Guarded([&] { return services::RemoveBetweenTags(InputString, Tag, TagEnd, TrimBlanks); });
+    return parts_->guard([&] { return services::RemoveBetweenTags(InputString, Tag, TagEnd, TrimBlanks); });
 }
 
 Text OstrelWebHelp::RemoveComments(const Text& InputString, Flag TrimBlanks) {
-    return Guarded([&] { return services::RemoveComments(InputString, TrimBlanks); });
+    return parts_->guard([&] { return services::RemoveComments(InputString, TrimBlanks); });
 }
 
 Text OstrelWebHelp::RemoveDoubleTag(const Text& InputString, const Text& Tag, const Text& SubTag,
                                     Flag TrimBlanks) {
-    return Guarded([&] { return services::RemoveDoubleTag(InputString, Tag, SubTag, TrimBlanks); });
+    return parts_->guard([&] { return services::RemoveDoubleTag(InputString, Tag, SubTag, TrimBlanks); });
 }
 
 Long OstrelWebHelp::SearchCount(const Text& InputString, const Text& SearchString, Flag MatchCase,
                                 Flag WholeWords) {
-    return Guarded([&] { return services::SearchCount(InputString, SearchString, MatchCase, WholeWords); });
+    return parts_->guard(
+        [&] { return services::SearchCount(InputString, SearchString, MatchCase, WholeWords); });
 }
 
 } // namespace ostrel

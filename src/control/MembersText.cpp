@@ -1,4 +1,5 @@
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
 #include "services/TagText.h"
@@ -7,27 +8,27 @@
 namespace ostrel {
 
 Text OstrelWebHelp::TrimCrLf(const Text& InputString) {
-    return Guarded([&] { return ostrel::TrimCrLf(InputString); });
+    return parts_->guard([&] { return ostrel::TrimCrLf(InputString); });
 }
 
 Long OstrelWebHelp::FindTagClose(const Text& InputString, Long StartPosition) {
-    return Guarded([&] { return services::FindTagClose(InputString, StartPosition); });
+    return parts_->guard([&] { return services::FindTagClose(InputString, StartPosition); });
 }
 
 Text OstrelWebHelp::StripTags(const Text& InputString) {
-    return Guarded([&] { return services::StripTags(InputString); });
+    return parts_->guard([&] { return services::StripTags(InputString); });
 }
 
 Text OstrelWebHelp::AddMissingBackslash(const Text& InputString) {
-    return Guarded([&] { return services::AddMissingBackslash(InputString); });
+    return parts_->guard([&] { return services::AddMissingBackslash(InputString); });
 }
 
 Text OstrelWebHelp::AddMissingSlash(const Text& InputString) {
-    return Guarded([&] { return services::AddMissingSlash(InputString); });
+    return parts_->guard([&] { return services::AddMissingSlash(InputString); });
 }
 
 Flag OstrelWebHelp::FileExists(const Text& FilePath) {
-    return Guarded([&] { return services::FileExists(*context_.platform.files, FilePath); });
+    return parts_->guard([&] { return services::FileExists(parts_->Disk(), FilePath); });
 }
 
 } // namespace ostrel

@@ -2,23 +2,17 @@
 
 #include <functional>
 #include <memory>
-#include <variant>
 
-#include "control/State.h"
-#include "platform/Context.h"
-#include "tablepages/CellTable.h"
+#include "platform/Events.h"
 #include "text/Enumerations.h"
-#include "text/PropertyFlags.h"
 
 namespace ostrel {
 
 class Bag;
+class CellTable;
 class Children;
-struct ControlFrame;
-struct PropertyRow;
-enum ToolbarAction : int;
-/// The value of a property, by its kind.
-using PropertyValue = std::variant<Text, Flag, Long, Picture>;
+struct ControlParts;
+struct Platform;
 
 /// What the mouse did over the control.
 enum class MouseAction { Down, Move, Up };
@@ -758,7 +752,7 @@ public:
 
     // What a user does, for the layers that show the control or stand in for its user.
 
-    /// The visual children with their places.
+    /// Returns the visual children with their places.
     const Children& View() const;
     /// A real press: of a toolbar button by its token or its child's name, of a user button by its name or
     /// its child's, of `cmdStop` or `cmdURL`, or Enter in `txtURL`. False, with nothing done, where it is
@@ -770,56 +764,11 @@ public:
     Flag MouseOverChild(MouseAction Action, const Text& Name, Integer Button, Integer Shift, Single X,
                         Single Y);
 
-    /// The state, for the layers above that need more than the host does.
-    State& Inside() { return state_; }
-    /// What the services of this control borrow, for the same layers.
-    Context& Around() { return context_; }
-
 private:
-    /// Keeps inside what is thrown below, and bounds nested calls: a call deeper than 64 levels does nothing
-    /// and gives its failure. Every thin member passes through it.
-    template <class Body>
-    auto Guarded(Body body) -> decltype(body());
+    /// Tells the host that a let has changed a property, and does what the property's row says beside.
     void Announce(const Text& name, unsigned flags);
 
-    // Lifecycle
-    void Trace(TextView line);
-    /// Straight into the property's place, with no let.
-    void StoreStraight(const PropertyRow& row, const PropertyValue& value);
-    PropertyValue DefaultOf(const PropertyRow& row) const;
-
-    // Browser pane
-    friend class PaneListener;
-    /// Null where the platform has none.
-    BrowserPane* Pane() const { return context_.platform.pane.get(); }
-    void FocusPane();
-    void NavigatePane(const Text& url);
-    void RefreshPane(Long level);
-    void DocumentCompleted(const Text& url);
-    void StatusTextChanged(const Text& text);
-
-    // Clock, stop panel and help pages
-    void ClockTick();
-    void SetPointer(Long shape);
-    Flag DirectoryHelpStands(Text& error);
-    void ArmHelp(const Text& location);
-    void HelpTick();
-
-    // Toolbar
-    Flag ButtonRegister(const Text& name, const Text& tip, Text& error);
-    void RunToolbarAction(ToolbarAction action);
-    void PressDefaultButton(ToolbarAction action);
-    void GoAddress();
-    void GoHomePage();
-    void GoIndexPage();
-    void GoPage(const Text& page);
-
-    State state_;
-    RunFlags run_;
-    Context context_;
-    std::unique_ptr<ControlFrame> frame_;
-    int depth_ = 0;
-    bool terminated_ = false;
+    std::unique_ptr<ControlParts> parts_;
 };
 
 } // namespace ostrel

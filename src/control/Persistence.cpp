@@ -1,5 +1,7 @@
 #include "control/Bag.h"
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/OstrelWebHelp.h"
+#include "control/PropertyTable.h"
 #include "text/NumberText.h"
 
 namespace ostrel {
@@ -69,71 +71,42 @@ bool Same(const PropertyValue& left, const PropertyValue& right) {
 
 } // namespace
 
-void OstrelWebHelp::StoreStraight(const PropertyRow& row, const PropertyValue& value) {
-    if (row.store) return row.store(state_, 0, value);
-    // Only these keep their state elsewhere than in a field of their own.
-    const auto text = [&] { return std::get<Text>(value); };
-    if (row.name == "HelpPart1") {
-        state_.help.HelpPart1 = Rope(text());
-    } else if (row.name == "HelpPart2") {
-        state_.help.HelpPart2 = Rope(text());
-    } else if (row.name == "HelpPart3") {
-        state_.help.HelpPart3 = Rope(text());
-    } else if (row.name == "HelpRefreshURL") {
-        // The target follows a let only.
-        state_.help.HelpRefreshURL = text();
-    } else if (row.name == "StopPressed") {
-        run_.StopPressed = std::get<Flag>(value);
-    } else if (row.name == "Offline" && Pane()) {
-        Pane()->Offline(std::get<Flag>(value));
-    }
-}
-
-PropertyValue OstrelWebHelp::DefaultOf(const PropertyRow& row) const {
-    if (row.name == "DirectoryRun" && context_.platform.files)
-        return context_.platform.files->ApplicationDirectory();
-    return row.fallback;
-}
-
 void OstrelWebHelp::ReadProperties(const Bag& Store) {
-    Guarded([&] {
+    parts_->guard([&] {
         for (const PropertyRow& row : AllProperties()) {
             if (!row.Persisted()) continue;
             const auto stored = Store.Read(Text(row.name));
             if (!stored)
-                StoreStraight(row, DefaultOf(row));
+                row.store(*parts_, 0, DefaultOf(row, parts_->Disk()));
             else if (const auto value = InFormOf(row.fallback, *stored))
-                StoreStraight(row, *value);
+                row.store(*parts_, 0, *value);
         }
-        Resize();
-        Trace("Web Help - Read Properties");
+        parts_->layout.Resize();
+        events.StatusTextChange.Tell("Web Help - Read Properties");
     });
 }
 
 void OstrelWebHelp::WriteProperties(Bag& Store) {
-    Guarded([&] {
-        const auto write = [&](const PropertyRow& row, const PropertyValue& fallback) {
+    parts_->guard([&] {
+        const auto write = [&](const PropertyRow& row) {
             PropertyValue value = row.get(*this, 0);
             const Text key(row.name);
-            if (Same(value, fallback))
+            if (Same(value, row.Has(WrittenUnlessEmpty) ? Text() : DefaultOf(row, parts_->Disk())))
                 Store.Remove(key);
             else
                 Store.Write(key, std::move(value));
         };
+        const PropertyRow* later = nullptr;
         for (const PropertyRow& row : AllProperties()) {
-            if (!row.Persisted()) continue;
-            // Read and never written, so that it comes back with its default.
-            if (row.name == "EditStyleFontStyle") continue;
-            // Written behind SearchNoRobots, unlike its place in reading.
-            if (row.name == "SearchMask") continue;
-            if (row.name == "SearchResultsLines")
-                write(row, Text());
-            else
-                write(row, DefaultOf(row));
-            if (row.name == "SearchNoRobots")
-                if (const PropertyRow* mask = FindProperty("SearchMask")) write(*mask, mask->fallback);
+            if (!row.Persisted() || row.Has(NeverWritten)) continue;
+            if (row.Has(WrittenLater)) {
+                later = &row;
+                continue;
+            }
+            write(row);
+            if (later && row.Has(WritesLater)) write(*std::exchange(later, nullptr));
         }
-        Trace("Web Help - Write Properties");
+        events.StatusTextChange.Tell("Web Help - Write Properties");
     });
 }
 

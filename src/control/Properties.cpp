@@ -1,26 +1,54 @@
-#include "control/Guard.h"
+#include "control/ControlParts.h"
+#include "control/CustomProperties.h"
+#include "control/OstrelWebHelp.h"
+#include "control/PropertyFlags.h"
 
 namespace ostrel {
 
+namespace {
+
+template <class Row, class Value>
+void LetCustom(ControlParts& parts, Value value) {
+    if constexpr (requires { Row::Let(parts, std::move(value)); })
+        Row::Let(parts, std::move(value));
+    else
+        Row::Store(parts, std::move(value));
+}
+
+} // namespace
+
 void OstrelWebHelp::Announce(const Text& name, unsigned flags) {
     if (PropertyChanged) PropertyChanged(name);
-    if (flags & Relayout) Resize();
+    if (flags & Relayout) parts_->layout.Resize();
 }
 
 #define PROPERTY(kind, name, fallback, flags, doc)                                                           \
-    kind OstrelWebHelp::name() const { return state_.OWNER.name; }                                           \
+    kind OstrelWebHelp::name() const {                                                                       \
+        return parts_->guard.Read([&] { return kind(parts_->state.OWNER.name); });                           \
+    }                                                                                                        \
     void OstrelWebHelp::name(kind value) {                                                                   \
-        Guarded([&] {                                                                                        \
-            state_.OWNER.name = std::move(value);                                                            \
+        parts_->guard([&] {                                                                                  \
+            parts_->state.OWNER.name = std::move(value);                                                     \
             Announce(#name, flags);                                                                          \
         });                                                                                                  \
     }
-#define CUSTOM(kind, name, fallback, flags, doc)
+#define CUSTOM(kind, name, fallback, flags, doc)                                                             \
+    kind OstrelWebHelp::name() const {                                                                       \
+        return parts_->guard.Read([&] { return custom::name::Get(*parts_); });                               \
+    }                                                                                                        \
+    void OstrelWebHelp::name(kind value) {                                                                   \
+        parts_->guard([&] {                                                                                  \
+            LetCustom<custom::name>(*parts_, std::move(value));                                              \
+            Announce(#name, flags);                                                                          \
+        });                                                                                                  \
+    }
 #define INDEXED(kind, name, fallback, limit, doc)                                                            \
-    kind OstrelWebHelp::name(Long X) const { return state_.OWNER.name.Get(X); }                              \
+    kind OstrelWebHelp::name(Long X) const {                                                                 \
+        return parts_->guard.Read([&] { return kind(parts_->state.OWNER.name.Get(X)); });                    \
+    }                                                                                                        \
     void OstrelWebHelp::name(Long X, kind value) {                                                           \
-        Guarded([&] {                                                                                        \
-            state_.OWNER.name.Put(X, std::move(value));                                                      \
+        parts_->guard([&] {                                                                                  \
+            parts_->state.OWNER.name.Put(X, std::move(value));                                               \
             Announce(#name, Unstored);                                                                       \
         });                                                                                                  \
     }
@@ -28,47 +56,5 @@ void OstrelWebHelp::Announce(const Text& name, unsigned flags) {
 #undef PROPERTY
 #undef CUSTOM
 #undef INDEXED
-
-// The head of a page reads the target, which follows the address at each let.
-Text OstrelWebHelp::HelpRefreshURL() const { return state_.help.HelpRefreshURL; }
-void OstrelWebHelp::HelpRefreshURL(Text value) {
-    Guarded([&] {
-        state_.help.HelpRefreshTarget = value;
-        state_.help.HelpRefreshURL = std::move(value);
-        Announce("HelpRefreshURL", Stored);
-    });
-}
-
-// The parts stand as ropes, since a table page of hundreds of megabytes passes through them.
-#define PART(name)                                                                                           \
-    Text OstrelWebHelp::name() const { return state_.help.name.ToText(); }                                   \
-    void OstrelWebHelp::name(Text value) {                                                                   \
-        Guarded([&] {                                                                                        \
-            state_.help.name = Rope(std::move(value));                                                       \
-            Announce(#name, Stored);                                                                         \
-        });                                                                                                  \
-    }
-PART(HelpPart1)
-PART(HelpPart2)
-PART(HelpPart3)
-#undef PART
-
-// Long loops read the flag where it lies in the run.
-Flag OstrelWebHelp::StopPressed() const { return run_.StopPressed; }
-void OstrelWebHelp::StopPressed(Flag value) {
-    Guarded([&] {
-        run_.StopPressed = value;
-        Announce("StopPressed", Stored);
-    });
-}
-
-// The pane itself holds the state.
-Flag OstrelWebHelp::Offline() const { return context_.platform.pane && context_.platform.pane->Offline(); }
-void OstrelWebHelp::Offline(Flag value) {
-    Guarded([&] {
-        if (context_.platform.pane) context_.platform.pane->Offline(value);
-        Announce("Offline", Stored);
-    });
-}
 
 } // namespace ostrel

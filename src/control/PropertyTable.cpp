@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "control/ControlParts.h"
+#include "control/CustomProperties.h"
+#include "control/OstrelWebHelp.h"
 #include "text/CodePage.h"
 
 namespace ostrel {
@@ -20,11 +23,11 @@ std::vector<PropertyRow> BuildRows() {
         doc,                                                                                                 \
         [](const OstrelWebHelp& web, Long) { return PropertyValue(web.name()); },                            \
         [](OstrelWebHelp& web, Long, const PropertyValue& value) { web.name(std::get<kind>(value)); },       \
-        store},
+        [](ControlParts& parts, Long, const PropertyValue& value) { store; }},
 #define PROPERTY(kind, name, fallback, flags, doc)                                                           \
-    ROW(kind, name, fallback, flags, doc,                                                                    \
-        ([](State& state, Long, const PropertyValue& value) { state.OWNER.name = std::get<kind>(value); }))
-#define CUSTOM(kind, name, fallback, flags, doc) ROW(kind, name, fallback, flags, doc, nullptr)
+    ROW(kind, name, fallback, flags, doc, parts.state.OWNER.name = std::get<kind>(value))
+#define CUSTOM(kind, name, fallback, flags, doc)                                                             \
+    ROW(kind, name, fallback, flags, doc, custom::name::Store(parts, std::get<kind>(value)))
 #define INDEXED(kind, name, fallback, limit, doc)                                                            \
     PropertyRow{#name,                                                                                       \
                 kind{fallback},                                                                              \
@@ -35,8 +38,8 @@ std::vector<PropertyRow> BuildRows() {
                 [](OstrelWebHelp& web, Long index, const PropertyValue& value) {                             \
                     web.name(index, std::get<kind>(value));                                                  \
                 },                                                                                           \
-                [](State& state, Long index, const PropertyValue& value) {                                   \
-                    state.OWNER.name.Put(index, std::get<kind>(value));                                      \
+                [](ControlParts& parts, Long index, const PropertyValue& value) {                            \
+                    parts.state.OWNER.name.Put(index, std::get<kind>(value));                                \
                 }},
 #include "control/PropertyList.h"
 #undef PROPERTY
@@ -61,6 +64,10 @@ const PropertyRow* FindProperty(std::string_view name) {
     const auto hit =
         std::find_if(rows.begin(), rows.end(), [&](const PropertyRow& row) { return row.name == name; });
     return hit == rows.end() ? nullptr : &*hit;
+}
+
+PropertyValue DefaultOf(const PropertyRow& row, Files& files) {
+    return row.Has(ApplicationDirectory) ? files.ApplicationDirectory() : row.fallback;
 }
 
 } // namespace ostrel

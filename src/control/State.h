@@ -15,7 +15,7 @@
 
 namespace ostrel {
 
-/// All state of one control that outlives a call, in plain structs, one a subsystem. Empty by default; the
+/// All state of one control that outlives a call, a plain struct for each subsystem. Empty by default; the
 /// defaults of the properties arrive with `InitProperties`, `ReadProperties` or `PageReset`.
 struct State {
     ControlProperties control;
@@ -32,9 +32,9 @@ struct State {
     EditProperties edit;
 
     /// What the last extraction of a tag left over.
-    Text ExtractRemain;
+    Text extractRemain;
     /// The sentence of the last failed `ReadFile`.
-    Text LastFileError;
+    Text lastFileError;
 };
 
 } // namespace ostrel

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "control/OstrelWebHelp.h"
+#include "platform/Platform.h"
 
 namespace ostrel::desktop {
 

@@ -197,9 +197,12 @@ void Close(Canvas& canvas, const Tones& tones) { Cross(canvas, 4, 12, tones.ink)
 
 using Drawing = void (*)(Canvas&, const Tones&);
 
-/// In the order of ToolbarAction.
-constexpr std::array<Drawing, ActionCount> Drawings{Back, Forward, Stop,  Refresh,    Home, Index, Search,
-                                                    Open, Edit,    Print, Properties, Full, Close};
+/// Each is named after its action.
+constexpr std::array<Drawing, ActionCount> Drawings{
+#define ACTION(id, token, child, word, tip, flags, run) id,
+#include "control/ToolbarActions.def"
+#undef ACTION
+};
 
 class GlyphEngine final : public QIconEngine {
 public:

@@ -2,7 +2,7 @@
 
 #include <QIcon>
 
-#include "control/Children.h"
+#include "control/ToolbarAction.h"
 
 namespace ostrel::desktop {
 

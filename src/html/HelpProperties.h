@@ -7,13 +7,8 @@ namespace ostrel {
 
 /// The page under construction: its parts, head and look.
 struct HelpProperties {
-#define PROPERTY(kind, name, fallback, flags, doc) kind name{};
-#define CUSTOM(kind, name, fallback, flags, doc)
-#define INDEXED(kind, name, fallback, limit, doc) Indexed<kind, limit> name;
-#include "html/HelpProperties.def"
-#undef PROPERTY
-#undef CUSTOM
-#undef INDEXED
+#define PROPERTY_ROWS "html/HelpProperties.def"
+#include "services/PropertyFields.h"
     Rope HelpPart1, HelpPart2, HelpPart3;
     Text HelpRefreshURL;
     /// The refresh target that the head of a page really uses.

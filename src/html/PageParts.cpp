@@ -63,13 +63,7 @@ void PageInitialise(const PageScope& scope) {
 }
 
 void ResetPage(PageProperties& page, PageFonts& fonts) {
-#define PROPERTY(kind, name, fallback, flags, doc) page.name = kind{fallback};
-#define CUSTOM(kind, name, fallback, flags, doc)
-#define INDEXED(kind, name, fallback, limit, doc)
-#include "html/PageProperties.def"
-#undef PROPERTY
-#undef CUSTOM
-#undef INDEXED
+    page.SetDefaults();
     page.PageBody.Clear();
     fonts.Clear();
 }

@@ -7,13 +7,8 @@ namespace ostrel {
 
 /// What the host wants of its pages; brought into force by PageInitialise.
 struct PageProperties {
-#define PROPERTY(kind, name, fallback, flags, doc) kind name{};
-#define CUSTOM(kind, name, fallback, flags, doc)
-#define INDEXED(kind, name, fallback, limit, doc) Indexed<kind, limit> name;
-#include "html/PageProperties.def"
-#undef PROPERTY
-#undef CUSTOM
-#undef INDEXED
+#define PROPERTY_ROWS "html/PageProperties.def"
+#include "services/PropertyFields.h"
     Rope PageBody;
     /// The page being built, as `CurrentCreatePage` tells it.
     Text CurrentCreatePage;

@@ -6,13 +6,8 @@ namespace ostrel {
 
 /// Options of transfers.
 struct PullProperties {
-#define PROPERTY(kind, name, fallback, flags, doc) kind name{};
-#define CUSTOM(kind, name, fallback, flags, doc)
-#define INDEXED(kind, name, fallback, limit, doc) Indexed<kind, limit> name;
-#include "net/PullProperties.def"
-#undef PROPERTY
-#undef CUSTOM
-#undef INDEXED
+#define PROPERTY_ROWS "net/PullProperties.def"
+#include "services/PropertyFields.h"
 };
 
 } // namespace ostrel

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/Events.h"
+#include "platform/Navigator.h"
 #include "platform/Platform.h"
+#include "platform/StopPanel.h"
 
 namespace ostrel {
 
@@ -22,6 +24,8 @@ struct Context {
     Events& events;
     Platform& platform;
     RunFlags& run;
+    StopPanel& stopPanel = StopPanel::None();
+    Navigator& navigator = Navigator::None();
 
     /// The yield: runs due timers and the host's pending work. Costs next to nothing when nothing waits.
     void GiveWay() const {

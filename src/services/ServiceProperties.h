@@ -6,13 +6,8 @@ namespace ostrel {
 
 /// Names, directories and work files that the services read.
 struct ServiceProperties {
-#define PROPERTY(kind, name, fallback, flags, doc) kind name{};
-#define CUSTOM(kind, name, fallback, flags, doc)
-#define INDEXED(kind, name, fallback, limit, doc) Indexed<kind, limit> name;
-#include "services/ServiceProperties.def"
-#undef PROPERTY
-#undef CUSTOM
-#undef INDEXED
+#define PROPERTY_ROWS "services/ServiceProperties.def"
+#include "services/PropertyFields.h"
 };
 
 } // namespace ostrel

@@ -3,13 +3,7 @@
 namespace ostrel::tablepages {
 
 void ResetTable(TableOptions& options, HeaderLinks& links) {
-#define PROPERTY(kind, name, fallback, flags, doc) options.name = kind{fallback};
-#define CUSTOM(kind, name, fallback, flags, doc)
-#define INDEXED(kind, name, fallback, limit, doc) options.name.Fill(kind{fallback});
-#include "tablepages/TableOptions.def"
-#undef PROPERTY
-#undef CUSTOM
-#undef INDEXED
+    options.SetDefaults();
     links.Clear();
     links.firstName = "First";
     links.previousName = "Previous";

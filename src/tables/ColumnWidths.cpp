@@ -5,6 +5,7 @@
 #include <cmath>
 #include <span>
 
+#include "control/OstrelWebHelp.h"
 #include "tablepages/ColumnPlan.h"
 #include "tablepages/Totals.h"
 #include "tables/TextWidth.h"

@@ -2,8 +2,11 @@
 
 #include <vector>
 
-#include "control/OstrelWebHelp.h"
 #include "tables/InputTable.h"
+
+namespace ostrel {
+class OstrelWebHelp;
+}
 
 namespace ostrel::tables {
 

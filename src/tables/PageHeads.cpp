@@ -1,5 +1,6 @@
 #include "tables/PageHeads.h"
 
+#include "control/OstrelWebHelp.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
 

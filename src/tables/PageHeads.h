@@ -3,8 +3,11 @@
 #include <functional>
 #include <vector>
 
-#include "control/OstrelWebHelp.h"
 #include "tables/InputTable.h"
+
+namespace ostrel {
+class OstrelWebHelp;
+}
 
 namespace ostrel::tables {
 

@@ -1,5 +1,6 @@
 #include "tables/ReportLook.h"
 
+#include "control/OstrelWebHelp.h"
 #include "tables/ReportStyle.h"
 #include "text/Enumerations.h"
 

@@ -3,8 +3,11 @@
 #include <memory>
 #include <optional>
 
-#include "control/OstrelWebHelp.h"
 #include "tables/PageHeads.h"
+
+namespace ostrel {
+class OstrelWebHelp;
+}
 
 namespace ostrel::tables {
 

@@ -1,5 +1,6 @@
 #include "tables/ReportPages.h"
 
+#include "control/OstrelWebHelp.h"
 #include "tables/CountText.h"
 
 namespace ostrel::tables {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "control/OstrelWebHelp.h"
 #include "control/PropertyTable.h"
 
 namespace ostrel::bridge {

@@ -78,9 +78,20 @@ TEST(Navigation, CancelStopsPaneAndLoops) {
     EXPECT_EQ(bench.Take(), (Lines{"BeforeNavigate2 C:\\a.htm  False", "DownloadBegin",
                                    "StatusTextChange Opening page C:\\a.htm...", "StatusTextChange Cancel...",
                                    "ProgressChange 26.2143993377686", "DownloadComplete"}));
-    EXPECT_TRUE(bench.web->Around().run.StopRequested);
     EXPECT_FALSE(bench.web->StopPressed());
     EXPECT_FALSE(bench.web->Busy());
+}
+
+TEST(Navigation, CancelEndsALongLoop) {
+    ControlBench bench;
+    bench.Settle();
+    bench.web->events.SortProgress.Listen([&](Text&, Long& passes) {
+        if (passes == 1) bench.web->Cancel();
+    });
+    Array<Long> pointers{1, 2, 3, 4};
+    bench.web->SortNumeric({4, 3, 2, 1}, pointers, 4, true);
+    EXPECT_EQ(bench.Take().back(), "SortProgress Sort Interrupted 2");
+    EXPECT_FALSE(bench.web->StopPressed());
 }
 
 TEST(Navigation, HistoryGoesBackAndForward) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "control/ControlBench.h"
+#include "tablepages/TableReset.h"
 
 namespace ostrel {
 namespace {
@@ -17,7 +18,6 @@ TEST(MembersPages, PageResetSetsPageAndTable) {
     web.PageTableColumnOrder(101, "Date");
     Text error;
     web.PageTableHeaderLinksAdd("n", "l", error, "", true, 0, 3);
-    web.PageTableHeaderNavNames("a", "b", "c", "d", "e");
     web.PageReset();
     EXPECT_EQ(web.PageTitle(), "");
     EXPECT_EQ(web.PageRefresh(), 0);
@@ -27,9 +27,17 @@ TEST(MembersPages, PageResetSetsPageAndTable) {
     EXPECT_EQ(web.PageTableSeparateHeaderField(), "RecordNumber");
     EXPECT_EQ(web.PageTableTotalFormatMaxPlaces(), 4);
     EXPECT_EQ(web.PageCreateTableMaxSubHeader(), 0);
-    EXPECT_EQ(web.Inside().headerLinks.lastName, "Last");
     ASSERT_TRUE(web.PageCreateSimple("C:\\temp\\a.htm", "t", "b", error, false));
     EXPECT_NE(bench.Files().files["C:\\temp\\a.htm"].find("\r\n<P>t</P>"), Text::npos) << "no longer bold";
+}
+
+TEST(MembersPages, ResetNamesTheNavigation) {
+    TableOptions options;
+    HeaderLinks links;
+    links.lastName = "z";
+    tablepages::ResetTable(options, links);
+    EXPECT_EQ(links.firstName + links.previousName + links.nextName + links.lastName + links.allName,
+              "FirstPreviousNextLastAll");
 }
 
 TEST(MembersPages, TheTableFallsBackToTheFontOfThePage) {

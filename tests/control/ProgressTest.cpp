@@ -24,7 +24,7 @@ TEST(StopPanel, MovesThePaneDown) {
         EXPECT_EQ(view.cmdStop.pointer, 1);
     }
     EXPECT_TRUE(bench.web->PressChild("cmdStop"));
-    EXPECT_TRUE(bench.web->Around().run.StopRequested);
+    EXPECT_TRUE(bench.web->StopPressed());
     bench.web->StopHide();
     EXPECT_TRUE(bench.web->StopPressed());
     EXPECT_FALSE(bench.web->PressChild("cmdStop"));

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "control/OstrelWebHelp.h"
 #include "platform/headless/HeadlessPlatform.h"
 #include "tables/ColumnWidths.h"
 #include "tables/CsvSource.h"

@@ -1,8 +1,10 @@
-#include "control/ToolbarLayout.h"
+#include "control/ControlLayout.h"
 
 #include <algorithm>
 #include <limits>
 
+#include "control/State.h"
+#include "control/ToolbarButtons.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
 
@@ -40,38 +42,40 @@ struct Format {
     Text right;
 };
 
-Format FormatOf(const ControlFrame& frame, const ToolbarScope& scope) {
-    const Text& format = scope.properties.ToolbarFormat;
+Format FormatOf(const State& state, const ToolbarButtons& buttons) {
+    const Text& format = state.toolbar.ToolbarFormat;
     const std::size_t slash = format.find('/');
     const TextView left = TrimBlanks(TextView(format).substr(0, slash));
     const TextView right = slash == NotFound ? TextView() : TextView(format).substr(slash + 1);
     if (!left.empty()) return {Text(left), Text(TrimBlanks(right))};
 
     Text usual = "Open Space Back Forward Space Stop Refresh Home";
-    if (!scope.indexPage.empty()) usual += " Index";
-    if (scope.searchLocation != 0) usual += " Search";
+    if (!state.control.IndexPage.empty()) usual += " Index";
+    if (state.search.SearchLocation != 0) usual += " Search";
     usual += " Space Print Full";
-    if (!frame.buttons.empty()) {
+    if (!buttons.Names().empty()) {
         usual += " Space";
-        for (const UserButton& button : frame.buttons) usual += " " + button.name;
+        for (const Text& name : buttons.Names()) usual += " " + name;
     }
     return {usual, "Close"};
 }
 
-class ToolbarLayout {
+/// One layout.
+class LayoutRun {
 public:
-    ToolbarLayout(ControlFrame& frame, const ToolbarScope& scope)
-        : frame_(frame), children_(frame.children), scope_(scope), wanted_(scope.properties),
-          pixel_(scope.screen ? scope.screen->Pixel() : Extent{15, 15}) {}
+    LayoutRun(Children& children, const ToolbarButtons& buttons, const State& state, const Screen& screen,
+              Long keptRoom)
+        : children_(children), buttons_(buttons), state_(state), wanted_(state.toolbar), screen_(screen),
+          pixel_(screen.Pixel()), keptRoom_(keptRoom) {}
 
-    void Run() {
+    /// Returns the sizes of the toolbar's buttons.
+    ButtonSizes Run() {
         Child& browser = children_.picBrowser;
         browser.left = browser.top = 0;
         browser.width = children_.control.width;
         browser.height = children_.control.height;
         children_.brwBrowser.left = 0;
         children_.picTest.visible = false;
-        frame_.toolbar = {};
         if (wanted_.ToolbarVisible) {
             FitStrip();
             PlaceButtons();
@@ -82,6 +86,7 @@ public:
         }
         children_.picToolbar.visible = wanted_.ToolbarVisible;
         children_.brwBrowser.width = browser.width;
+        return sizes_;
     }
 
 private:
@@ -95,11 +100,11 @@ private:
         children_.txtURL.visible = children_.lblURL.visible = wanted_.ToolbarAddressVisible;
         children_.cmdURL.visible = wanted_.ToolbarAddressVisible && wanted_.ToolbarAddressButton;
         if (wanted_.ToolbarAddressVisible) needed += Twips{children_.txtURL.height} + 2 * pixel_.height;
-        frame_.toolbar.ButtonHeightUsed = height;
-        frame_.toolbar.ButtonWidthUsed = width;
+        sizes_.height = height;
+        sizes_.width = width;
         needed_ = Fit(needed);
         strip.height = std::max(strip.height, needed_);
-        const Twips covered = Twips{strip.height} + frame_.StopPanelGap;
+        const Twips covered = Twips{strip.height} + keptRoom_;
         children_.brwBrowser.top = Fit(covered);
         children_.brwBrowser.height = Fit(children_.picBrowser.height - covered);
         strip.left = strip.top = 0;
@@ -107,19 +112,19 @@ private:
     }
 
     void PlaceButtons() {
-        frame_.toolbar.ButtonTop = HalfOf(Twips{children_.picToolbar.height} - needed_);
+        sizes_.top = HalfOf(Twips{children_.picToolbar.height} - needed_);
         for (int i = 0; i < ActionCount; ++i)
             children_.Default(static_cast<ToolbarAction>(i)).visible = false;
         for (Long i = 1; i <= children_.UserButtons(); ++i) children_.UserButton(i)->visible = false;
 
-        const Format format = FormatOf(frame_, scope_);
+        const Format format = FormatOf(state_, buttons_);
         Twips position = wanted_.ToolbarButtonMargin;
         for (const Text& token : TokensOf(format.left)) {
             if (token == "space") {
                 position += wanted_.ToolbarButtonSpace;
-            } else if (Child* button = FindToolbarButton(frame_, token)) {
+            } else if (Child* button = buttons_.Find(token)) {
                 Place(*button, position);
-                position += frame_.toolbar.ButtonWidthUsed;
+                position += sizes_.width;
             }
         }
         const Twips leftLimit = position + wanted_.ToolbarButtonSpace;
@@ -133,8 +138,8 @@ private:
         for (auto token = tokens.rbegin(); token != tokens.rend() && position > leftLimit; ++token) {
             if (*token == "space") {
                 position -= wanted_.ToolbarButtonSpace;
-            } else if (Child* button = FindToolbarButton(frame_, *token)) {
-                position -= frame_.toolbar.ButtonWidthUsed;
+            } else if (Child* button = buttons_.Find(*token)) {
+                position -= sizes_.width;
                 if (position <= leftLimit) return;
                 Place(*button, position);
             }
@@ -143,9 +148,9 @@ private:
 
     void Place(Child& button, Twips position) {
         button.left = Fit(position);
-        button.top = frame_.toolbar.ButtonTop;
-        button.width = frame_.toolbar.ButtonWidthUsed;
-        button.height = frame_.toolbar.ButtonHeightUsed;
+        button.top = sizes_.top;
+        button.width = sizes_.width;
+        button.height = sizes_.height;
         button.visible = true;
         children_.txtURL.top = Fit(Twips{button.top} + button.height + 2 * pixel_.height);
     }
@@ -159,21 +164,21 @@ private:
         box.left = Fit(Twips{label.left} + label.width + LabelGap);
         if (wanted_.ToolbarAddressButton) {
             go.left = Fit(rightEdge_ - go.width);
-            go.height = frame_.toolbar.ButtonHeightUsed;
+            go.height = sizes_.height;
             AlignLabel(go, box, false);
             box.width = Fit(Twips{go.left} - box.left - LabelGap);
         } else {
             box.width = Fit(rightEdge_ - box.left);
         }
         box.locked = wanted_.ToolbarAddressLocked;
-        children_.Default(ActionIndex).enabled = !scope_.indexPage.empty();
+        children_.Default(ActionIndex).enabled = !state_.control.IndexPage.empty();
     }
 
     /// Centres a label on its anchor; aligned right, it ends before it. Only a label takes the size of its
     /// text.
     void AlignLabel(Child& label, const Child& anchor, bool alignRight) {
-        if (label.kind == ChildKind::Label && scope_.screen) {
-            const Extent size = scope_.screen->Measure(label.caption);
+        if (label.kind == ChildKind::Label) {
+            const Extent size = screen_.Measure(label.caption);
             label.width = size.width;
             label.height = size.height;
         }
@@ -182,33 +187,25 @@ private:
         if (alignRight) label.left = Fit(Twips{anchor.left} - label.width - LabelGap);
     }
 
-    ControlFrame& frame_;
     Children& children_;
-    const ToolbarScope& scope_;
+    const ToolbarButtons& buttons_;
+    const State& state_;
     const ToolbarProperties& wanted_;
+    const Screen& screen_;
     const Extent pixel_;
+    const Long keptRoom_;
+    ButtonSizes sizes_;
     Long needed_ = 0;
     Twips rightEdge_ = 0;
 };
 
 } // namespace
 
-void LayOutControl(ControlFrame& frame, const ToolbarScope& scope) { ToolbarLayout(frame, scope).Run(); }
-
-ToolbarAction ActionOfToken(TextView token) {
-    const auto hit = std::find_if(DefaultButtons.begin(), DefaultButtons.end(),
-                                  [&](const DefaultButton& button) { return button.token == token; });
-    return static_cast<ToolbarAction>(hit - DefaultButtons.begin());
-}
-
-Child* FindToolbarButton(ControlFrame& frame, TextView name) {
-    const Text wanted = Lower(TrimBlanks(name));
-    if (const ToolbarAction action = ActionOfToken(wanted); action != ActionCount)
-        return &frame.children.Default(action);
-    for (std::size_t i = 0; i < frame.buttons.size(); ++i)
-        if (EqualText(frame.buttons[i].name, wanted))
-            return frame.children.UserButton(static_cast<Long>(i) + 1);
-    return nullptr;
+void ControlLayout::Resize() {
+    guard_([&] {
+        sizes_ = LayoutRun(children_, buttons_, state_, *platform_.screen, keptRoom_).Run();
+        events_.StatusTextChange.Tell("Web Help - Resize");
+    });
 }
 
 } // namespace ostrel

@@ -1,0 +1,104 @@
+#include "control/HelpLoader.h"
+
+#include "control/PageScopeOf.h"
+#include "html/PageParts.h"
+#include "services/FileServices.h"
+#include "services/Paths.h"
+
+namespace ostrel {
+
+HelpLoader::HelpLoader(Guard& guard, Context& context, State& state, PaneNavigator& navigator)
+    : guard_(guard), context_(context), state_(state), navigator_(navigator),
+      timer_(context.platform.clock->MakeTimer([this] { Tick(); })) {}
+
+bool HelpLoader::RequireDirectory(Text& error) const {
+    const Text& directory = state_.service.DirectoryHelp;
+    if (directory.empty())
+        error = services::ErrorMessageNotDefined("Property [DirectoryHelp]");
+    else if (!services::DirectoryExists(*context_.platform.files, directory))
+        error = services::ErrorMessageDoesNotExist("Property [DirectoryHelp]", directory);
+    else
+        return true;
+    return false;
+}
+
+bool HelpLoader::Locate(const Text& page, Text& location, Text& error) const {
+    if (!state_.help.HelpRemote) {
+        if (!RequireDirectory(error)) return false;
+        location = services::AddMissingBackslash(state_.service.DirectoryHelp) + page;
+        return true;
+    }
+    const Text& remote = state_.help.DirectoryHelpRemote;
+    if (remote.empty()) {
+        error = services::ErrorMessageNotDefined("Property [DirectoryHelpRemote]");
+        return false;
+    }
+    const bool address = remote.find('/') != Text::npos;
+    location = (address ? services::AddMissingSlash(remote) : services::AddMissingBackslash(remote)) + page;
+    return true;
+}
+
+bool HelpLoader::Load(const Text& page, Text& error) {
+    if (page.empty()) {
+        error = "No Help Page defined.";
+        return false;
+    }
+    if (page.find_first_of("\\/") != Text::npos) {
+        error = "Help Page must not be a full path.";
+        return false;
+    }
+    Text location;
+    if (!Locate(page, location, error)) return false;
+    if (location == current_) return true;
+    if (!timer_->Running() || location != next_) Arm(location);
+    return true;
+}
+
+bool HelpLoader::LoadInternal(Text& error) {
+    const Rope part1 = state_.help.HelpPart1, part2 = state_.help.HelpPart2, part3 = state_.help.HelpPart3;
+    if (part1.Empty() && part2.Empty() && part3.Empty()) {
+        error = "No Help Page defined.";
+        return false;
+    }
+    if (!RequireDirectory(error)) return false;
+    const Text robots = state_.help.HelpRobots;
+    state_.help.HelpRobots = "NoIndex";
+    const Rope page = html::InternalBuild(PageScopeOf(context_, state_), part1, part2, part3);
+    internal_ = page.ToText();
+    const Text path = services::WorkFilePath(state_.service, state_.service.WorkFileNext);
+    state_.help.HelpRobots = robots;
+    services::WorkFileNextIncrement(state_.service);
+    Text fileError;
+    if (!services::WriteFileFull(context_, state_.service.ProgramName, path, page, fileError,
+                                 {.createBackup = false, .askOverwrite = false, .overwrite = true})) {
+        error = "Help Page can't be loaded - " + fileError;
+        return false;
+    }
+    Arm(path);
+    return true;
+}
+
+void HelpLoader::Arm(const Text& location) {
+    timer_->Start(state_.help.HelpDelay, false);
+    next_ = location;
+}
+
+void HelpLoader::LoadNow() {
+    if (timer_->Running()) Tick();
+}
+
+void HelpLoader::Tick() {
+    guard_([&] {
+        timer_->Stop();
+        navigator_.OpenHelpPage(Text(next_));
+        // A load that a listener has set up meanwhile still waits.
+        if (!timer_->Running()) next_.clear();
+    });
+}
+
+bool HelpLoader::Exists(const Text& page) const {
+    return services::FileExists(*context_.platform.files,
+                                services::AddMissingBackslash(state_.service.DirectoryHelp) + page);
+}
+
+} // namespace ostrel
