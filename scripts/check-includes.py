@@ -18,7 +18,8 @@ FLOORS = [
 FLOOR_OF = {folder: number for number, folders in enumerate(FLOORS) for folder in folders}
 # The host application is made of the windowed layer.
 ALLOWED_NEIGHBOURS = {("desk", "desktop")}
-INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+# The rows of properties are included by their macro.
+INCLUDE = re.compile(r'^\s*#\s*(?:include|define\s+PROPERTY_ROWS)\s+"([^"]+)"')
 
 
 def main() -> int:

@@ -24,7 +24,7 @@ void OstrelWebHelp::InitProperties() {
             if (!row.Indexed()) row.store(*parts_, 0, DefaultOf(row, parts_->Disk()));
             for (Long index = 1; index <= row.limit; ++index) row.store(*parts_, index, row.fallback);
         }
-        parts_->clock.Silence();
+        parts_->clock.EndEvents();
         html::HelpPageInitialise(parts_->state.help);
         PageReset();
         Children& children = parts_->children;

@@ -8,20 +8,20 @@
 
 namespace ostrel {
 
-/// Measures how long a page takes to load, and tells it by `DownloadTime` about ten times a second.
+/// Measures how long a page takes to load, and raises `DownloadTime` about ten times a second.
 class LoadClock {
 public:
     LoadClock(Guard& guard, Events& events, Platform& platform);
 
-    /// Counts from 0.
+    /// Starts the count at 0, and the events.
     void Start();
     /// Returns the seconds since the start with one decimal; empty where the clock does not run, in its first
     /// millisecond, and once the tick count has wrapped around.
     Text Seconds() const;
-    /// Ends the count, and returns it as `Seconds` does.
+    /// Ends count and events, and returns the count as `Seconds` does.
     Text Stop();
-    /// Ends the telling; the count goes on.
-    void Silence() { timer_->Stop(); }
+    /// Ends the events; the count goes on.
+    void EndEvents() { timer_->Stop(); }
 
 private:
     void Tick();

@@ -41,7 +41,7 @@ void PaneEvents::DocumentComplete(const Text& url, bool topLevel) {
             events_.DocumentComplete.Tell(url, Pane().LocationName());
         }
         children_.txtURL.text = Pane().LocationURL();
-        clock_.Silence();
+        clock_.EndEvents();
         navigator_.Completed();
     });
 }

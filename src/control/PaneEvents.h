@@ -5,8 +5,8 @@
 
 namespace ostrel {
 
-/// Hears the browser pane and turns what it tells into the control's events. Frames inside the page are
-/// dropped here, and so is what repeats the last progress, status text or title.
+/// Turns the reports of the browser pane into the control's events. Reports of frames inside the page are
+/// dropped, and so are those that repeat the last progress, status text or title.
 class PaneEvents final : public BrowserSink {
 public:
     /// Listens to the pane as long as it lives.

@@ -21,8 +21,8 @@ struct State {
     ControlProperties control;
     ToolbarProperties toolbar;
     ServiceProperties service;
-    HelpProperties help;
-    PageProperties page;
+    HelpProperties help; ///< of the page under construction
+    PageProperties page; ///< of the pages to come, which `PageInitialise` copies into `help`
     PageFonts fonts;
     TableOptions table;
     HeaderLinks headerLinks;

@@ -4,18 +4,18 @@
 
 namespace ostrel {
 
-/// The way of a job to the page on view. This one leads nowhere; the control has one that steers its browser
-/// pane.
+/// Lets a job load pages into the browser pane. The base does nothing; the navigator of the control is a
+/// subclass.
 class Navigator {
 public:
     virtual ~Navigator() = default;
 
-    /// Asks the pane for a URL or a local path. Its end is told by events.
+    /// Starts to load a URL or a local path. Events report the end.
     virtual void Navigate(const Text& /*url*/) {}
     /// Returns the address of the page on view, a local page by the path that was loaded.
     virtual Text LocationURL() const { return {}; }
 
-    /// The navigator of a context that has none of its own.
+    /// Returns the navigator of a context that has none of its own, which does nothing.
     static Navigator& None() {
         static Navigator none;
         return none;

@@ -4,8 +4,8 @@
 
 namespace ostrel {
 
-/// Where a long job shows how far it is, with a button that stops it. This one is a panel that nobody sees;
-/// the control has one that its user sees.
+/// Shows the progress of a long job, with a button that stops it. The base shows nothing; the panel of the
+/// control is a subclass.
 class StopPanel {
 public:
     virtual ~StopPanel() = default;
@@ -20,7 +20,7 @@ public:
     /// Fills the gauge to a fraction of its track, from 0 to 1.
     virtual void ShowGauge(Single /*fraction*/) {}
 
-    /// The panel of a context that has none of its own.
+    /// Returns the panel of a context that has none of its own, which shows nothing.
     static StopPanel& None() {
         static StopPanel none;
         return none;

@@ -2,6 +2,7 @@
 
 #include "bridge/Members.h"
 #include "control/OstrelWebHelp.h"
+#include "platform/Platform.h"
 
 namespace ostrel::bridge {
 

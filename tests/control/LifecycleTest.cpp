@@ -95,12 +95,31 @@ TEST(Lifecycle, NestedCallsEndBeforeTheStackDoes) {
     int deepest = 0, depth = 0;
     bench.web->events.StatusTextChange.Listen([&](Text&) {
         deepest = std::max(deepest, ++depth);
+        EXPECT_EQ(bench.web->HelpDelay(), 200) << "a get works at any depth";
         bench.web->Resize();
         --depth;
     });
     bench.web->Resize();
     EXPECT_GT(deepest, 10);
     EXPECT_LE(deepest, 64);
+}
+
+TEST(Lifecycle, WhatAListenerThrowsStaysInside) {
+    ControlBench bench;
+    bench.web->PropertyChanged = [](const Text&) { throw 1; };
+    bench.web->events.ListenToAll([](EventBase&, std::span<const ArgumentRef>) { throw 1; });
+    Text error;
+    bench.web->ToolbarVisible(true);
+    EXPECT_TRUE(bench.web->ToolbarVisible());
+    bench.web->Resize();
+    EXPECT_TRUE(bench.web->ButtonAdd("Mine", "a.bmp", "", error));
+    EXPECT_FALSE(bench.web->PressChild("cmdHome"));
+    bench.web->StopPressed(true);
+    bench.web->StopShow("x");
+    EXPECT_FALSE(bench.web->StopPressed()) << "what follows the layout is done";
+    EXPECT_TRUE(bench.web->LoadURL("about:other", error));
+    bench.Clock().Advance(500);
+    EXPECT_FALSE(bench.web->Busy());
 }
 
 TEST(Lifecycle, ListenersMayGoWhileTheyAreCalled) {

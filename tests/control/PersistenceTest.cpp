@@ -2,6 +2,7 @@
 
 #include "control/Bag.h"
 #include "control/ControlBench.h"
+#include "control/PropertyTable.h"
 
 namespace ostrel::test {
 namespace {
