@@ -19,7 +19,8 @@ FormRow RowOf(const Form& form) {
 FormRow MessageBoxRow() {
     FormRow all;
     for (Long buttons = 0; buttons <= 5; ++buttons) {
-        const FormRow row = RowOf(MessageBox(MessageKind::Query, "", "", buttons));
+        const FormRow row =
+            RowOf(MessageBox(MessageKind::Query, "", "", static_cast<MessageButtons>(buttons)));
         all.name = row.name;
         for (const Text& control : row.controls)
             if (std::find(all.controls.begin(), all.controls.end(), control) == all.controls.end())

@@ -22,9 +22,6 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 
-/// The name of each answer's button.
-constexpr std::array<TextView, 8> Words{"", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
-
 Long Rounded(double twips) { return static_cast<Long>(std::lround(twips)); }
 
 QMessageBox::Icon IconOf(MessageKind kind) {
@@ -53,10 +50,11 @@ void QtScreen::ShowModal(Form& form) {
     delete dialog;
 }
 
-Long QtScreen::Message(MessageKind kind, const Text& text, const Text& title, Long buttons) {
+MessageAnswer QtScreen::Message(MessageKind kind, const Text& text, const Text& title,
+                                MessageButtons buttons) {
     // Knows the buttons, their order and the answer of the close box.
     const MessageBox model(kind, text, title, buttons);
-    const TextView harmless = Words[static_cast<std::size_t>(model.Answer())];
+    const TextView harmless = ButtonWord(model.Answer());
     const QPointer<QMessageBox> box =
         new QMessageBox(IconOf(kind), TitleText(title), ShownLines(text), QMessageBox::NoButton, Window());
     box->setTextFormat(Qt::PlainText);
@@ -103,14 +101,14 @@ Extent QtScreen::Measure(const Text& text) const {
 
 void QtScreen::Beep() { QApplication::beep(); }
 
-void QtScreen::MousePointer(Long shape) {
+void QtScreen::MousePointer(PointerShape shape) {
     // A modal dialog covers the window, so the pointer stands over either.
     for (QWidget* window : {widget_ ? widget_->window() : nullptr, QApplication::activeModalWidget()}) {
         if (!window) continue;
-        if (shape == 0)
+        if (shape == PointerShape::Default)
             window->unsetCursor();
         else
-            window->setCursor(CursorOf(shape));
+            window->setCursor(CursorOf(static_cast<Long>(shape)));
     }
 }
 

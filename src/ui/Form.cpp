@@ -57,15 +57,13 @@ Form::Form(std::string_view formName, Text formCaption) : name(formName), captio
 bool Form::Show(Platform& platform) {
     platform_ = &platform;
     accepted_ = false;
-    if (!platform.screen) return false;
     open_ = true;
     const Bounds place = FitOnScreen({left, top, width, height}, platform.screen->Area());
     left = place.left;
     top = place.top;
     for (Control* control : controls_) {
         if (!focus && control->TakesFocus() && control->Reachable()) focus = control;
-        if (control->kind == ControlKind::Timer && platform.clock)
-            static_cast<FormTimer&>(*control).Arm(*platform.clock);
+        if (control->kind == ControlKind::Timer) static_cast<FormTimer&>(*control).Arm(*platform.clock);
     }
     Load();
     if (open_) platform.screen->ShowModal(*this);
@@ -121,8 +119,8 @@ void Form::Finish() {
 }
 
 bool Form::Fault(Control& faulty, const Text& message) {
-    if (platform_ && platform_->screen)
-        platform_->screen->Message(MessageKind::Error, message, caption + " Error", 0);
+    if (platform_)
+        platform_->screen->Message(MessageKind::Error, message, caption + " Error", MessageButtons::Ok);
     focus = &faulty;
     return false;
 }

@@ -7,40 +7,45 @@ namespace ostrel {
 
 namespace {
 
-constexpr Long Ok = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7;
-constexpr std::array<std::string_view, 8> Words{"", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
+using enum MessageAnswer;
 
-std::vector<Long> AnswersOf(Long buttons) {
+std::vector<MessageAnswer> AnswersOf(MessageButtons buttons) {
     switch (buttons) {
-    case 1:
+    case MessageButtons::OkCancel:
         return {Ok, Cancel};
-    case 2:
+    case MessageButtons::AbortRetryIgnore:
         return {Abort, Retry, Ignore};
-    case 3:
+    case MessageButtons::YesNoCancel:
         return {Yes, No, Cancel};
-    case 4:
+    case MessageButtons::YesNo:
         return {Yes, No};
-    case 5:
+    case MessageButtons::RetryCancel:
         return {Retry, Cancel};
     default:
         return {Ok};
     }
 }
 
-Long HarmlessOf(const std::vector<Long>& answers) {
-    for (const Long answer : {No, Cancel, Ok})
+MessageAnswer HarmlessOf(const std::vector<MessageAnswer>& answers) {
+    for (const MessageAnswer answer : {No, Cancel, Ok})
         if (std::find(answers.begin(), answers.end(), answer) != answers.end()) return answer;
     return Abort;
 }
 
 } // namespace
 
-MessageBox::MessageBox(MessageKind messageKind, Text message, Text title, Long buttons)
+std::string_view ButtonWord(MessageAnswer answer) {
+    static constexpr std::array<std::string_view, 8> Words{"",      "OK",     "Cancel", "Abort",
+                                                           "Retry", "Ignore", "Yes",    "No"};
+    return Words[static_cast<std::size_t>(answer)];
+}
+
+MessageBox::MessageBox(MessageKind messageKind, Text message, Text title, MessageButtons buttons)
     : Form("MessageBox", std::move(title)), kind(messageKind), text(std::move(message)) {
-    const std::vector<Long> answers = AnswersOf(buttons);
+    const std::vector<MessageAnswer> answers = AnswersOf(buttons);
     answer_ = HarmlessOf(answers);
-    for (const Long answer : answers) {
-        const std::string_view word = Words[static_cast<std::size_t>(answer)];
+    for (const MessageAnswer answer : answers) {
+        const std::string_view word = ButtonWord(answer);
         buttons_.push_back(std::make_unique<Button>(*this, word, Text(word), [this, answer] {
             answer_ = answer;
             Close();

@@ -52,7 +52,8 @@ void ScriptedUser::Attend(Form& form) {
     if (form.Open()) form.CloseBox();
 }
 
-Long ScriptedUser::Answer(MessageKind kind, const Text& text, const Text& title, Long buttons) {
+MessageAnswer ScriptedUser::Answer(MessageKind kind, const Text& text, const Text& title,
+                                   MessageButtons buttons) {
     messages_.push_back({kind, text, title});
     MessageBox box(kind, text, title, buttons);
     box.Show(platform_);
