@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <vector>
@@ -58,6 +59,8 @@ public:
     std::set<Text> FileNames();
     /// All files of the folder, each behind a line with its name.
     Text Family() const;
+    /// All files of the folder by their names.
+    std::map<std::string, std::string> ByName() const;
     /// One file of the folder.
     Text Page(const Text& name) const;
 

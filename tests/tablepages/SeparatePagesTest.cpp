@@ -34,11 +34,6 @@ struct RecordHost : ReportHost {
         }
         return family;
     }
-    std::map<std::string, std::string> ByName() const {
-        std::map<std::string, std::string> pages;
-        for (const auto& [path, content] : files->files) pages[path.substr(path.rfind('\\') + 1)] = content;
-        return pages;
-    }
     /// What was told from the start of the record pages on, but for the steps of building a page.
     std::vector<Text> Told() const {
         const auto start =
