@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "html/FontType.h"
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
+#include "tablepages/TableTypes.h"
 
 namespace ostrel::test {
 

@@ -3,7 +3,6 @@
 #include <limits>
 
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::test {
 
