@@ -4,10 +4,10 @@
 #include <string_view>
 
 #include "cli/Usage.h"
+#include "tablepages/TableTypes.h"
 #include "tables/CellText.h"
 #include "tables/ReportStyle.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::cli {
 

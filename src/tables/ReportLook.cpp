@@ -1,7 +1,8 @@
 #include "tables/ReportLook.h"
 
+#include "html/FontType.h"
+#include "tablepages/TableTypes.h"
 #include "tables/ReportStyle.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::tables {
 
