@@ -5,10 +5,10 @@
 
 #include "cli/Usage.h"
 #include "control/OstrelWebHelp.h"
+#include "tablepages/TableTypes.h"
 #include "tables/CellText.h"
 #include "tables/ReportStyle.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::cli {
 

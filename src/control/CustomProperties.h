@@ -10,8 +10,8 @@ namespace ostrel::custom {
 /// The parts of a page are ropes, since a table page of hundreds of megabytes passes through them.
 template <Rope HelpProperties::*Part>
 struct PagePart {
-    static Text Get(const ControlParts& parts) { return (parts.state.help.*Part).ToText(); }
-    static void Store(ControlParts& parts, Text value) { parts.state.help.*Part = Rope(std::move(value)); }
+    static Text Get(const ControlParts& parts) { return (parts.state.draft.*Part).ToText(); }
+    static void Store(ControlParts& parts, Text value) { parts.state.draft.*Part = Rope(std::move(value)); }
 };
 struct HelpPart1 : PagePart<&HelpProperties::HelpPart1> {};
 struct HelpPart2 : PagePart<&HelpProperties::HelpPart2> {};
@@ -19,10 +19,12 @@ struct HelpPart3 : PagePart<&HelpProperties::HelpPart3> {};
 
 /// The head of a page reads the target, which follows the address at each let, but at nothing else.
 struct HelpRefreshURL {
-    static Text Get(const ControlParts& parts) { return parts.state.help.HelpRefreshURL; }
-    static void Store(ControlParts& parts, Text value) { parts.state.help.HelpRefreshURL = std::move(value); }
+    static Text Get(const ControlParts& parts) { return parts.state.draft.HelpRefreshURL; }
+    static void Store(ControlParts& parts, Text value) {
+        parts.state.draft.HelpRefreshURL = std::move(value);
+    }
     static void Let(ControlParts& parts, Text value) {
-        parts.state.help.HelpRefreshTarget = value;
+        parts.state.draft.HelpRefreshTarget = value;
         Store(parts, std::move(value));
     }
 };

@@ -1,7 +1,7 @@
 #include "control/HelpLoader.h"
 
 #include "control/PageScopeOf.h"
-#include "html/PageParts.h"
+#include "html/PageDocument.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
 
@@ -23,12 +23,12 @@ bool HelpLoader::RequireDirectory(Text& error) const {
 }
 
 bool HelpLoader::Locate(const Text& page, Text& location, Text& error) const {
-    if (!state_.help.HelpRemote) {
+    if (!state_.draft.HelpRemote) {
         if (!RequireDirectory(error)) return false;
         location = services::AddMissingBackslash(state_.service.DirectoryHelp) + page;
         return true;
     }
-    const Text& remote = state_.help.DirectoryHelpRemote;
+    const Text& remote = state_.draft.DirectoryHelpRemote;
     if (remote.empty()) {
         error = services::ErrorMessageNotDefined("Property [DirectoryHelpRemote]");
         return false;
@@ -55,22 +55,21 @@ bool HelpLoader::Load(const Text& page, Text& error) {
 }
 
 bool HelpLoader::LoadInternal(Text& error) {
-    const Rope part1 = state_.help.HelpPart1, part2 = state_.help.HelpPart2, part3 = state_.help.HelpPart3;
+    const Rope part1 = state_.draft.HelpPart1, part2 = state_.draft.HelpPart2, part3 = state_.draft.HelpPart3;
     if (part1.Empty() && part2.Empty() && part3.Empty()) {
         error = "No Help Page defined.";
         return false;
     }
     if (!RequireDirectory(error)) return false;
-    const Text robots = state_.help.HelpRobots;
-    state_.help.HelpRobots = "NoIndex";
+    const Text robots = state_.draft.HelpRobots;
+    state_.draft.HelpRobots = "NoIndex";
     const Rope page = html::InternalBuild(PageScopeOf(context_, state_), part1, part2, part3);
     internal_ = page.ToText();
     const Text path = services::WorkFilePath(state_.service, state_.service.WorkFileNext);
-    state_.help.HelpRobots = robots;
+    state_.draft.HelpRobots = robots;
     services::WorkFileNextIncrement(state_.service);
     Text fileError;
-    if (!services::WriteFileFull(context_, state_.service.ProgramName, path, page, fileError,
-                                 {.createBackup = false, .askOverwrite = false, .overwrite = true})) {
+    if (!services::WriteFileFull(context_, path, page, fileError, {})) {
         error = "Help Page can't be loaded - " + fileError;
         return false;
     }
@@ -79,7 +78,7 @@ bool HelpLoader::LoadInternal(Text& error) {
 }
 
 void HelpLoader::Arm(const Text& location) {
-    timer_->Start(state_.help.HelpDelay, false);
+    timer_->Start(state_.draft.HelpDelay, false);
     next_ = location;
 }
 

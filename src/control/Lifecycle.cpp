@@ -1,7 +1,7 @@
 #include "control/ControlParts.h"
 #include "control/OstrelWebHelp.h"
 #include "control/PropertyTable.h"
-#include "html/PageParts.h"
+#include "html/PageDraft.h"
 #include "services/FileServices.h"
 
 namespace ostrel {
@@ -25,7 +25,7 @@ void OstrelWebHelp::InitProperties() {
             for (Long index = 1; index <= row.limit; ++index) row.store(*parts_, index, row.fallback);
         }
         parts_->clock.EndEvents();
-        html::HelpPageInitialise(parts_->state.help);
+        html::HelpPageInitialise(parts_->state.draft);
         PageReset();
         Children& children = parts_->children;
         children.lblURL.visible = children.cmdURL.visible = children.txtURL.visible = false;

@@ -166,9 +166,9 @@ Flag OstrelWebHelp::WriteFileFromCSVDatabase(const Text& FilePath, const Array<T
             return value ? TextView(*value) : TextView();
         };
         LargeBuffer room;
-        return services::WriteCsvFile(parts_->context, parts_->state.service.ProgramName, FilePath,
-                                      FieldNames, cell, NumberRecords, NumberFields, ErrorMessage, Delimiter,
-                                      CreateBackup, room);
+        return services::WriteCsvFile(parts_->context, FilePath,
+                                      {FieldNames, NumberRecords, NumberFields, cell, Delimiter},
+                                      CreateBackup, room, ErrorMessage);
     });
 }
 
@@ -177,8 +177,9 @@ Flag OstrelWebHelp::WriteFileFull(const Text& Title, const Text& FilePath, const
     return parts_->guard([&] {
         Rope text;
         text.Append(nullptr, Output);
-        return services::WriteFileFull(parts_->context, Title, FilePath, text, ErrorMessage,
-                                       {CreateBackup, AskOverwrite, Overwrite});
+        return services::WriteFileFull(
+            parts_->context, FilePath, text, ErrorMessage,
+            {CreateBackup, Overwrite, AskOverwrite ? std::optional(Title) : std::nullopt});
     });
 }
 

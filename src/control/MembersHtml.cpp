@@ -164,7 +164,7 @@ Text OstrelWebHelp::CreateTable(Long Rows, Long Columns, const Grid<Text>& CellV
                                 const Text& TableTags, const Text& RowTags, const Text& SpaceCellHTML,
                                 const Text& EmptyCellHTML) {
     return parts_->guard([&] {
-        const html::TableLook look{SpaceColumns,  Font.empty() ? parts_->state.help.HelpFont : Font,
+        const html::TableLook look{SpaceColumns,  Font.empty() ? parts_->state.draft.HelpFont : Font,
                                    TableTags,     RowTags,
                                    SpaceCellHTML, EmptyCellHTML};
         return html::CreateTable(parts_->context, Rows, Columns, CellValues, CellTags, look);

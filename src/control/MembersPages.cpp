@@ -1,6 +1,8 @@
 #include "control/ControlParts.h"
 #include "control/OstrelWebHelp.h"
-#include "html/PageParts.h"
+#include "html/PageDocument.h"
+#include "html/PageDraft.h"
+#include "html/PageSave.h"
 #include "html/SimplePages.h"
 #include "tablepages/TableReset.h"
 
@@ -11,16 +13,20 @@ Text OstrelWebHelp::CreatePage(const Text& Body) {
 }
 
 Text OstrelWebHelp::CurrentCreatePage() {
-    return parts_->guard([&] { return parts_->state.page.CurrentCreatePage; });
+    return parts_->guard([&] { return parts_->state.pageSettings.CurrentCreatePage; });
 }
 
 void OstrelWebHelp::HelpPageInitialise() {
-    parts_->guard([&] { html::HelpPageInitialise(parts_->state.help); });
+    parts_->guard([&] { html::HelpPageInitialise(parts_->state.draft); });
 }
 
 Flag OstrelWebHelp::HelpPageSaveInternal(const Text& FilePath, Text& ErrorMessage) {
-    return parts_->guard(
-        [&]() -> Flag { return html::HelpPageSaveInternal(parts_->PageScope(), FilePath, ErrorMessage); });
+    return parts_->guard([&]() -> Flag {
+        ErrorMessage.clear();
+        const html::PageSaved saved = html::SavePage(parts_->PageScope(), FilePath);
+        ErrorMessage = saved.error;
+        return saved.built;
+    });
 }
 
 Text OstrelWebHelp::InternalBuild(const Text& Part1, const Text& Part2, const Text& Part3) {
@@ -30,7 +36,7 @@ Text OstrelWebHelp::InternalBuild(const Text& Part1, const Text& Part2, const Te
 }
 
 Text OstrelWebHelp::PageBody() {
-    return parts_->guard([&] { return parts_->state.page.PageBody.ToText(); });
+    return parts_->guard([&] { return parts_->state.pageSettings.PageBody.ToText(); });
 }
 
 Flag OstrelWebHelp::PageCreateList(const Text& FilePath, const Text& Title, Long NumberList,
@@ -102,7 +108,7 @@ void OstrelWebHelp::PageInitialise() {
 
 void OstrelWebHelp::PageReset() {
     parts_->guard([&] {
-        html::ResetPage(parts_->state.page, parts_->state.fonts);
+        html::ResetPage(parts_->state.pageSettings, parts_->state.fonts);
         tablepages::ResetTable(parts_->state.table, parts_->state.headerLinks);
     });
 }

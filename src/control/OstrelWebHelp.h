@@ -3,8 +3,8 @@
 #include <functional>
 #include <memory>
 
+#include "control/Enumerations.h"
 #include "platform/Events.h"
-#include "text/Enumerations.h"
 
 namespace ostrel {
 

@@ -7,7 +7,7 @@ namespace ostrel {
 
 /// What the builders of pages reach of one control.
 inline html::PageScope PageScopeOf(Context& context, State& state) {
-    return {context, state.help, state.page, state.fonts, state.service};
+    return {context, state.draft, state.pageSettings, state.fonts, state.service};
 }
 
 } // namespace ostrel

@@ -10,10 +10,10 @@
 #define OWNER service
 #include "services/ServiceProperties.def"
 #undef OWNER
-#define OWNER help
+#define OWNER draft
 #include "html/HelpProperties.def"
 #undef OWNER
-#define OWNER page
+#define OWNER pageSettings
 #include "html/PageProperties.def"
 #undef OWNER
 #define OWNER table

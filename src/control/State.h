@@ -21,8 +21,8 @@ struct State {
     ControlProperties control;
     ToolbarProperties toolbar;
     ServiceProperties service;
-    HelpProperties help; ///< of the page under construction
-    PageProperties page; ///< of the pages to come, which `PageInitialise` copies into `help`
+    HelpProperties draft;        ///< the page under construction
+    PageProperties pageSettings; ///< of the pages to come; `PageInitialise` copies them into `draft`
     PageFonts fonts;
     TableOptions table;
     HeaderLinks headerLinks;

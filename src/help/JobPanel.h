@@ -26,12 +26,18 @@ public:
 class PanelShown {
 public:
     PanelShown(JobPanel& panel, const Text& heading) : panel_(panel) { panel_.Show(heading); }
-    ~PanelShown() { panel_.Hide(); }
+    ~PanelShown() {
+        if (!kept_) panel_.Hide();
+    }
     PanelShown(const PanelShown&) = delete;
     PanelShown& operator=(const PanelShown&) = delete;
 
+    /// Leaves the panel to the job that follows.
+    void Keep() { kept_ = true; }
+
 private:
     JobPanel& panel_;
+    bool kept_ = false;
 };
 
 } // namespace ostrel::help

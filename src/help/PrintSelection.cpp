@@ -20,8 +20,9 @@ PageFiles FilesOf(Files& files, const Text& helpDirectory, const Text& mask) {
 
 } // namespace
 
-PrintSelection SelectPagesToPrint(const Context& context, const Text& helpDirectory, const Text& selectMask,
-                                  const Text& ignoreMask, std::vector<Text>& paths, Text& error) {
+PrintSelection SelectPagesToPrint(const Context& context, JobPanel& panel, const Text& helpDirectory,
+                                  const Text& selectMask, const Text& ignoreMask, std::vector<Text>& paths,
+                                  Text& error) {
     Files& files = *context.platform.files;
     error.clear();
     paths.clear();
@@ -29,6 +30,7 @@ PrintSelection SelectPagesToPrint(const Context& context, const Text& helpDirect
         error = "No Select Mask has been entered.";
         return PrintSelection::Failed;
     }
+    PanelShown shown(panel, "Locating Help Pages");
     std::unordered_set<Text> ignored; // in capitals
     if (!ignoreMask.empty()) {
         if (!HasDirectory(ignoreMask) && !CheckHelpDirectory(files, helpDirectory, error))
@@ -48,6 +50,7 @@ PrintSelection SelectPagesToPrint(const Context& context, const Text& helpDirect
         return PrintSelection::Failed;
     }
     std::sort(paths.begin(), paths.end());
+    shown.Keep();
     return PrintSelection::Chosen;
 }
 

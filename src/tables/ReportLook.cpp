@@ -1,8 +1,9 @@
 #include "tables/ReportLook.h"
 
 #include "control/OstrelWebHelp.h"
+#include "html/FontType.h"
+#include "tablepages/TableTypes.h"
 #include "tables/ReportStyle.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::tables {
 

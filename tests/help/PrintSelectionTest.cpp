@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "html/PageWorld.h"
+#include "help/SearchWorld.h"
 
 namespace ostrel::help {
 
@@ -24,18 +24,20 @@ TEST(PrintSelection, Masks) {
              {"C:\\none", "*.htm", "a.htm", "Property [DirectoryHelp] [C:\\none] does not exist.", {}},
          }) {
         test::PageWorld world;
+        test::LoggedPanel panel(world.run);
         for (const char* name : {"a.htm", "B.htm", "c.htm", "d.txt"})
             world.files->Add(Text("C:\\pages\\") + name, "");
         std::vector<Text> chosen{"old"};
         Text said;
-        EXPECT_EQ(SelectPagesToPrint(world.context, directory, select, ignore, chosen, said),
+        EXPECT_EQ(SelectPagesToPrint(world.context, panel, directory, select, ignore, chosen, said),
                   error.empty() ? PrintSelection::Chosen : PrintSelection::Failed)
             << select;
         EXPECT_EQ(said, error);
         EXPECT_EQ(chosen, paths);
-        world.run.StopPressed = true;
+        EXPECT_EQ(panel.log.empty() || panel.log.back() == "hidden", !error.empty()) << select;
+        world.run.HostStop = true;
         if (error.empty()) {
-            EXPECT_EQ(SelectPagesToPrint(world.context, directory, select, ignore, chosen, said),
+            EXPECT_EQ(SelectPagesToPrint(world.context, panel, directory, select, ignore, chosen, said),
                       PrintSelection::Stopped);
         }
     }

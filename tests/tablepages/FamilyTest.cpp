@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "html/FontType.h"
 #include "tablepages/PageLinks.h"
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
+#include "tablepages/TableTypes.h"
 
 namespace ostrel::test {
 
@@ -55,7 +56,7 @@ const std::vector<Family>& Families() {
         {"parts",
          [](ReportHost& host) {
              Prices(host);
-             PageProperties& page = host.state.page;
+             PageProperties& page = host.state.pageSettings;
              page.PageAnchorTop = "top";
              page.PageAnchorBottom = "False";
              page.PageSubTitle = "by item";

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "control/PageScopeOf.h"
-#include "html/PageParts.h"
+#include "html/PageDraft.h"
 #include "support/MemoryFiles.h"
 #include "tablepages/PageCreateTable.h"
 #include "tablepages/PageNames.h"
@@ -39,7 +39,7 @@ public:
         files = memory.get();
         files->directories.insert("C:\\out");
         platform.files = std::move(memory);
-        html::ResetPage(state.page, state.fonts);
+        html::ResetPage(state.pageSettings, state.fonts);
         tablepages::ResetTable(state.table, state.headerLinks);
         state.service.DecimalDelimiter = ".";
         state.service.ProgramName = "Ostrel";

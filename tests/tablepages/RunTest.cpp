@@ -4,7 +4,6 @@
 
 #include "platform/headless/VirtualClock.h"
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::test {
 
@@ -245,7 +244,7 @@ TEST(ReportRun, MissingFilesAreToldOnceARow) {
     Small(host);
     host.Options().PageTableColumnLink.Put(1, "gone");
     host.state.service.DirectoryHelp = "C:\\out";
-    host.state.help.TestHyperlink = true;
+    host.state.draft.TestHyperlink = true;
     std::vector<Text> missing;
     host.events.HyperlinkMissing.Listen([&](Text& path) {
         if (path.find("gone") != Text::npos) missing.push_back(path);

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "html/FontType.h"
 #include "tablepages/PageLinks.h"
 #include "tablepages/ReportHost.h"
+#include "tablepages/TableTypes.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::test {
 
@@ -18,8 +19,8 @@ struct RecordHost : ReportHost {
               {{"Pears", "10", "0", "b"}, {"Apples", "2", "7", ""}, {"Figs", "1.5", "12", "A"}});
         Options().PageTableAddSeparate = true;
         Options().PageTableRecordNumber = true;
-        state.page.PageAnchorTop = "False";
-        state.page.PageAnchorBottom = "False";
+        state.pageSettings.PageAnchorTop = "False";
+        state.pageSettings.PageAnchorBottom = "False";
     }
     void SortBoth() {
         Options().PageTableSeparateSortName = true;
@@ -103,9 +104,9 @@ TEST(SeparatePages, EveryOptionTogether) {
     options.PageTableSpace = true;
     options.PageTableBorder = 1;
     options.PageTableBold = true;
-    host.state.page.PageHeader = "Heading";
-    host.state.page.PageFooter = "Footing";
-    host.state.page.PageFont = "<FONT FACE=\"Arial\">";
+    host.state.pageSettings.PageHeader = "Heading";
+    host.state.pageSettings.PageFooter = "Footing";
+    host.state.pageSettings.PageFont = "<FONT FACE=\"Arial\">";
     host.state.fonts.Find(owhFontTable)->colour = "NAVY";
     for (const char* name : {"First", "previous", "NEXT", "Last", "All", "Excel"})
         host.state.headerLinks.Add({name, {}, "tip", false, 1, 0}, host.error);
