@@ -29,7 +29,7 @@ void ApplyDefaultLook(const Look& look, OstrelWebHelp& web) {
     web.PageFontBoldSet(owhFontTitle, true);
     web.PageFontColourSet(owhFontSubTitle, "#52606D");
     web.PageFontColourSet(owhFontFooter, "#52606D");
-    // The style sheet does what edges and vertical alignment would say again in every cell.
+    // The style sheet sets edges and vertical alignment, so that cells need no attributes for them.
     web.PageTableAddLeft("");
     web.PageTableAddRight("");
     web.PageTableVAlign("");
