@@ -104,7 +104,7 @@ bool SearchDisplay(const SearchScope& scope, Text& page, Text& error) {
     }
     services::WorkFileNextIncrement(scope.service);
     Text fileError;
-    if (!services::WriteFileFull(context, scope.service.ProgramName, page, document, fileError, {}))
+    if (!services::WriteFileFull(context, page, document, fileError, {}))
         error = "Help Page can't be saved - " + fileError;
     return true;
 }
