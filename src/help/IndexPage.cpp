@@ -19,7 +19,7 @@ Text OrElse(const Text& text, const Text& fallback) { return text.empty() ? fall
 class IndexWriter {
 public:
     IndexWriter(const html::PageScope& scope, const IndexLook& look)
-        : scope_(scope), font_(OrElse(look.font, scope.help.HelpFont)),
+        : scope_(scope), font_(OrElse(look.font, scope.draft.HelpFont)),
           letterFont_(OrElse(look.letterFont, font_)), padFont_(html::CreateFontStart({}, "1", {})),
           indent_(OrElse(look.indent, " &nbsp; &nbsp;")), spaceSections_(look.spaceSections),
           rowStart_(html::CreateTableRowStart("VALIGN=\"TOP\"")),

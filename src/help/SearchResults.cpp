@@ -2,7 +2,7 @@
 
 #include "help/PageFiles.h"
 #include "html/Elements.h"
-#include "html/PageParts.h"
+#include "html/PageDocument.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
 #include "text/CodePage.h"
@@ -94,7 +94,7 @@ bool SearchDisplay(const SearchScope& scope, Text& page, Text& error) {
 
     Rope document;
     {
-        const NotForRobots unindexed(scope.page.help.HelpRobots);
+        const NotForRobots unindexed(scope.page.draft.HelpRobots);
         Text body;
         AppendPart(body, scope.search.SearchPart1);
         AppendPart(body, scope.search.SearchResults);
@@ -104,7 +104,7 @@ bool SearchDisplay(const SearchScope& scope, Text& page, Text& error) {
     }
     services::WorkFileNextIncrement(scope.service);
     Text fileError;
-    if (!services::WriteFileFull(context, scope.service.ProgramName, page, document, fileError, {}))
+    if (!services::WriteFileFull(context, page, document, fileError, {}))
         error = "Help Page can't be saved - " + fileError;
     return true;
 }
