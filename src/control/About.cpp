@@ -14,11 +14,10 @@ void OstrelWebHelp::ShowAboutBox() {
                         .description = "Help pages, reports and HTML for applications.",
                         .disclaimer = {}});
         form.icon = state_.control.Icon;
-        if (const Screen* screen = context_.platform.screen.get()) {
-            const Bounds place = CentreOnScreen({0, 0, form.width, form.height}, screen->Area());
-            form.left = place.left;
-            form.top = place.top;
-        }
+        const Bounds place =
+            CentreOnScreen({0, 0, form.width, form.height}, context_.platform.screen->Area());
+        form.left = place.left;
+        form.top = place.top;
         form.Show(context_.platform);
     });
 }

@@ -1,24 +1,12 @@
 #include "control/ControlFrame.h"
 #include "control/Guard.h"
 #include "control/PageScopeOf.h"
+#include "help/PageFiles.h"
 #include "html/PageDocument.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
 
 namespace ostrel {
-
-Flag OstrelWebHelp::DirectoryHelpStands(Text& error) {
-    const Text& directory = state_.service.DirectoryHelp;
-    if (directory.empty()) {
-        error = services::ErrorMessageNotDefined("Property [DirectoryHelp]");
-        return false;
-    }
-    if (!DirectoryExists(directory)) {
-        error = services::ErrorMessageDoesNotExist("Property [DirectoryHelp]", directory);
-        return false;
-    }
-    return true;
-}
 
 Flag OstrelWebHelp::HelpPageLoad(const Text& HelpPage, Text& ErrorMessage) {
     return Guarded([&]() -> Flag {
@@ -33,7 +21,9 @@ Flag OstrelWebHelp::HelpPageLoad(const Text& HelpPage, Text& ErrorMessage) {
         }
         Text location;
         if (!state_.help.HelpRemote) {
-            if (!DirectoryHelpStands(ErrorMessage)) return false;
+            if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp,
+                                          ErrorMessage))
+                return false;
             location = services::AddMissingBackslash(state_.service.DirectoryHelp) + HelpPage;
         } else {
             const Text& remote = state_.help.DirectoryHelpRemote;
@@ -61,7 +51,8 @@ Flag OstrelWebHelp::HelpPageLoadInternal(Text& ErrorMessage) {
             ErrorMessage = "No Help Page defined.";
             return false;
         }
-        if (!DirectoryHelpStands(ErrorMessage)) return false;
+        if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp, ErrorMessage))
+            return false;
         const Text robots = state_.help.HelpRobots;
         state_.help.HelpRobots = "NoIndex";
         const Rope page = html::InternalBuild(PageScopeOf(context_, state_), part1, part2, part3);

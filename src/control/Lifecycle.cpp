@@ -12,13 +12,11 @@ OstrelWebHelp::OstrelWebHelp(Platform& platform, EventList::AnyListener listener
     : context_{events, platform, run_}, frame_(std::make_unique<ControlFrame>()) {
     if (listener) events.ListenToAll(std::move(listener));
     Guarded([&] {
-        if (platform.clock) {
-            frame_->tmrHelp = platform.clock->MakeTimer([this] { HelpTick(); });
-            frame_->tmrClock = platform.clock->MakeTimer([this] { ClockTick(); });
-        }
+        frame_->tmrHelp = platform.clock->MakeTimer([this] { HelpTick(); });
+        frame_->tmrClock = platform.clock->MakeTimer([this] { ClockTick(); });
         ExtractReset();
         frame_->listener = std::make_unique<PaneListener>(*this);
-        if (Pane()) Pane()->Listen(frame_->listener.get());
+        Pane().Listen(frame_->listener.get());
         NavigatePane("about:blank");
         Trace("Web Help - Initialise");
     });
@@ -26,7 +24,7 @@ OstrelWebHelp::OstrelWebHelp(Platform& platform, EventList::AnyListener listener
 
 OstrelWebHelp::~OstrelWebHelp() {
     Terminate();
-    if (Pane()) Pane()->Listen(nullptr);
+    Pane().Listen(nullptr);
 }
 
 void OstrelWebHelp::Trace(TextView line) { events.StatusTextChange.Tell(Text(line)); }
@@ -69,7 +67,7 @@ void OstrelWebHelp::Terminate() {
     if (terminated_) return;
     terminated_ = true;
     Guarded([&] {
-        if (context_.platform.files) services::WorkFilesKill(*context_.platform.files, state_.service);
+        services::WorkFilesKill(*context_.platform.files, state_.service);
         Trace("Web Help - Terminate");
     });
 }

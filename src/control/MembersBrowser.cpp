@@ -11,16 +11,12 @@ constexpr TextView BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer\\";
 
 } // namespace
 
-void OstrelWebHelp::FocusPane() {
-    if (Pane()) Pane()->Focus();
-}
+void OstrelWebHelp::FocusPane() { Pane().Focus(); }
 
-void OstrelWebHelp::NavigatePane(const Text& url) {
-    if (Pane()) Pane()->Navigate(url);
-}
+void OstrelWebHelp::NavigatePane(const Text& url) { Pane().Navigate(url); }
 
 void OstrelWebHelp::RefreshPane(Long level) {
-    if (Pane()) Pane()->Refresh2(static_cast<RefreshLevel>(level));
+    Pane().Refresh2(static_cast<RefreshLevel>(level));
     frame_->children.Default(ActionStop).enabled = true;
     frame_->children.Default(ActionRefresh).enabled = false;
     frame_->pane.PendingRefresh = true;
@@ -48,35 +44,35 @@ Flag OstrelWebHelp::LoadURLToTarget(const Text& URL, const Text& Target, Text& E
         else if (Target.empty())
             ErrorMessage = "No Target defined.";
         if (!ErrorMessage.empty()) return false;
-        if (Pane()) Pane()->Navigate(URL, Target);
+        Pane().Navigate(URL, Target);
         return true;
     });
 }
 
 Flag OstrelWebHelp::GoBack() {
     return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoBack();
+        Pane().GoBack();
         return true;
     });
 }
 
 Flag OstrelWebHelp::GoForward() {
     return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoForward();
+        Pane().GoForward();
         return true;
     });
 }
 
 Flag OstrelWebHelp::GoHome() {
     return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoHome();
+        Pane().GoHome();
         return true;
     });
 }
 
 Flag OstrelWebHelp::GoSearch() {
     return Guarded([&]() -> Flag {
-        if (Pane()) Pane()->GoSearch();
+        Pane().GoSearch();
         return true;
     });
 }
@@ -84,14 +80,14 @@ Flag OstrelWebHelp::GoSearch() {
 void OstrelWebHelp::Cancel() {
     Guarded([&] {
         events.StatusTextChange.Tell("Cancel...");
-        if (Pane()) Pane()->Stop();
+        Pane().Stop();
         run_.StopRequested = true;
     });
 }
 
-Flag OstrelWebHelp::Busy() { return Pane() && Pane()->Busy(); }
+Flag OstrelWebHelp::Busy() { return Pane().Busy(); }
 
-Long OstrelWebHelp::ReadyState() { return static_cast<Long>(Pane()->ReadyState()); }
+Long OstrelWebHelp::ReadyState() { return static_cast<Long>(Pane().ReadyState()); }
 
 void OstrelWebHelp::Refresh() {
     Guarded([&] { RefreshPane(0); });
@@ -105,9 +101,9 @@ void OstrelWebHelp::RefreshIfExpired() {
     Guarded([&] { RefreshPane(1); });
 }
 
-Text OstrelWebHelp::LocationName() { return Pane() ? Pane()->LocationName() : Text(); }
+Text OstrelWebHelp::LocationName() { return Pane().LocationName(); }
 
-Text OstrelWebHelp::LocationURL() { return Pane() ? Pane()->LocationURL() : Text(); }
+Text OstrelWebHelp::LocationURL() { return Pane().LocationURL(); }
 
 Long OstrelWebHelp::BrowserLeft() { return frame_->children.brwBrowser.left; }
 

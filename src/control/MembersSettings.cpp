@@ -15,7 +15,7 @@ Long Show(const Context& context, const Text& title, MessageKind kind, const Tex
 }
 
 void Wait(const Context& context, Long milliseconds) {
-    if (context.platform.clock && milliseconds > 0) context.platform.clock->Wait(milliseconds);
+    if (milliseconds > 0) context.platform.clock->Wait(milliseconds);
 }
 
 } // namespace

@@ -790,8 +790,7 @@ private:
 
     // Browser pane
     friend class PaneListener;
-    /// Null where the platform has none.
-    BrowserPane* Pane() const { return context_.platform.pane.get(); }
+    BrowserPane& Pane() const { return *context_.platform.pane; }
     void FocusPane();
     void NavigatePane(const Text& url);
     void RefreshPane(Long level);
@@ -801,7 +800,6 @@ private:
     // Clock, stop panel and help pages
     void ClockTick();
     void SetPointer(Long shape);
-    Flag DirectoryHelpStands(Text& error);
     void ArmHelp(const Text& location);
     void HelpTick();
 

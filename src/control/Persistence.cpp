@@ -84,14 +84,13 @@ void OstrelWebHelp::StoreStraight(const PropertyRow& row, const PropertyValue& v
         state_.help.HelpRefreshURL = text();
     } else if (row.name == "StopPressed") {
         run_.StopPressed = std::get<Flag>(value);
-    } else if (row.name == "Offline" && Pane()) {
-        Pane()->Offline(std::get<Flag>(value));
+    } else if (row.name == "Offline") {
+        Pane().Offline(std::get<Flag>(value));
     }
 }
 
 PropertyValue OstrelWebHelp::DefaultOf(const PropertyRow& row) const {
-    if (row.name == "DirectoryRun" && context_.platform.files)
-        return context_.platform.files->ApplicationDirectory();
+    if (row.name == "DirectoryRun") return context_.platform.files->ApplicationDirectory();
     return row.fallback;
 }
 

@@ -24,7 +24,7 @@ Text SecondsSoFar(LoadClock& clock, std::uint32_t ticks) {
 
 void OstrelWebHelp::SetPointer(Long shape) {
     frame_->children.control.pointer = shape;
-    if (context_.platform.screen) context_.platform.screen->MousePointer(static_cast<PointerShape>(shape));
+    context_.platform.screen->MousePointer(static_cast<PointerShape>(shape));
 }
 
 void OstrelWebHelp::StopShow(const Text& Heading) {
@@ -78,14 +78,14 @@ void OstrelWebHelp::ClockStart() {
     Guarded([&] {
         frame_->clock.ClockRunning = true;
         if (frame_->tmrClock && !frame_->tmrClock->Running()) frame_->tmrClock->Start(ClockInterval, false);
-        if (context_.platform.clock) frame_->clock.ClockStartTicks = context_.platform.clock->Ticks();
+        frame_->clock.ClockStartTicks = context_.platform.clock->Ticks();
         frame_->clock.ClockTenths = 0;
     });
 }
 
 Text OstrelWebHelp::ClockTime() {
     return Guarded([&]() -> Text {
-        if (!frame_->clock.ClockRunning || !context_.platform.clock) return {};
+        if (!frame_->clock.ClockRunning) return {};
         return SecondsSoFar(frame_->clock, context_.platform.clock->Ticks());
     });
 }

@@ -63,10 +63,10 @@ void OstrelWebHelp::StopPressed(Flag value) {
 }
 
 // The pane itself holds the state.
-Flag OstrelWebHelp::Offline() const { return context_.platform.pane && context_.platform.pane->Offline(); }
+Flag OstrelWebHelp::Offline() const { return Pane().Offline(); }
 void OstrelWebHelp::Offline(Flag value) {
     Guarded([&] {
-        if (context_.platform.pane) context_.platform.pane->Offline(value);
+        Pane().Offline(value);
         Announce("Offline", Stored);
     });
 }

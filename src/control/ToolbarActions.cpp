@@ -26,7 +26,7 @@ void OstrelWebHelp::RunToolbarAction(ToolbarAction action) {
         GoIndexPage();
         break;
     case ActionFull:
-        if (Pane()) Pane()->Navigate(LocationURL(), "_blank");
+        Pane().Navigate(LocationURL(), "_blank");
         break;
     case ActionClose:
         ToolbarVisible(false);
@@ -83,7 +83,7 @@ void OstrelWebHelp::GoAddress() {
     const Text url(TrimBlanks(frame_->children.txtURL.text));
     if (!url.empty()) {
         Text error;
-        if (!LoadURL(url, error) && context_.platform.screen) context_.platform.screen->Beep();
+        if (!LoadURL(url, error)) context_.platform.screen->Beep();
     }
     FocusPane();
 }
