@@ -1,6 +1,7 @@
 #include "control/HelpLoader.h"
 
 #include "control/PageScopeOf.h"
+#include "help/PageFiles.h"
 #include "html/PageDocument.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
@@ -11,20 +12,9 @@ HelpLoader::HelpLoader(Guard& guard, Context& context, State& state, PaneNavigat
     : guard_(guard), context_(context), state_(state), navigator_(navigator),
       timer_(context.platform.clock->MakeTimer([this] { Tick(); })) {}
 
-bool HelpLoader::RequireDirectory(Text& error) const {
-    const Text& directory = state_.service.DirectoryHelp;
-    if (directory.empty())
-        error = services::ErrorMessageNotDefined("Property [DirectoryHelp]");
-    else if (!services::DirectoryExists(*context_.platform.files, directory))
-        error = services::ErrorMessageDoesNotExist("Property [DirectoryHelp]", directory);
-    else
-        return true;
-    return false;
-}
-
 bool HelpLoader::Locate(const Text& page, Text& location, Text& error) const {
     if (!state_.draft.HelpRemote) {
-        if (!RequireDirectory(error)) return false;
+        if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp, error)) return false;
         location = services::AddMissingBackslash(state_.service.DirectoryHelp) + page;
         return true;
     }
@@ -60,7 +50,7 @@ bool HelpLoader::LoadInternal(Text& error) {
         error = "No Help Page defined.";
         return false;
     }
-    if (!RequireDirectory(error)) return false;
+    if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp, error)) return false;
     const Text robots = state_.draft.HelpRobots;
     state_.draft.HelpRobots = "NoIndex";
     const Rope page = html::InternalBuild(PageScopeOf(context_, state_), part1, part2, part3);

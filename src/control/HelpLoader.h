@@ -39,7 +39,6 @@ public:
     void ForgetCurrent() { current_.clear(); }
 
 private:
-    bool RequireDirectory(Text& error) const;
     bool Locate(const Text& page, Text& location, Text& error) const;
     void Arm(const Text& location);
     void Tick();

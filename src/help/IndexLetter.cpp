@@ -51,7 +51,7 @@ Text IndexLetter(TextView name) {
 
 Text IndexSortKey(TextView name) {
     Text key = BaseLetters(name);
-    // "_" and its like stand behind the letters otherwise.
+    // Otherwise "_" and the like would sort behind the letters.
     if (!IsLetter(key)) key.insert(0, 1, ' ');
     return key;
 }

@@ -11,7 +11,7 @@ struct IndexLook {
     Text letterFont; ///< of the letters; that of the entries by default
     Flag spaceSections;
     Text sectionSpacer, columnSpacer, indent; ///< HTML; hard spaces by default
-    Flag lettersAbove, lettersBelow;          ///< whether a line of letters stands above, below
+    Flag lettersAbove, lettersBelow;          ///< whether to add a line of letters above, below
 };
 
 /// Returns the index as HTML: a table with a section for each letter, and lines of letters that lead to them.

@@ -11,7 +11,7 @@ struct IndexEntry {
     Text hyperlink; ///< empty for plain text
     Text name;
     Flag indent;    ///< belongs below the entry before it
-    Text extra;     ///< the name of an anchor in front; empty for none
+    Text extra;     ///< the name of an anchor in front, or empty
     Text character; ///< its first letter is that of the entry's section; empty for the name's own
 };
 

@@ -4,7 +4,7 @@
 
 namespace ostrel::help {
 
-/// Where a long job shows how far it is, with a button that stops it. This one is a panel that nobody sees.
+/// Shows the progress of a long job, with a button that stops it. The base class shows nothing.
 /// Nothing here throws.
 class JobPanel {
 public:

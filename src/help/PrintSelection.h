@@ -7,7 +7,7 @@
 
 namespace ostrel::help {
 
-/// How a selection of pages to print came out.
+/// The outcome of a selection of pages to print.
 enum class PrintSelection {
     Chosen,
     Stopped, ///< by the user, which is no failure

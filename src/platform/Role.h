@@ -12,7 +12,7 @@ template <class Interface>
 Interface& NullObject();
 
 /// Owns one role of a platform. Without one it gives the null object of the role, so what it gives is never
-/// null and nobody has to ask.
+/// null.
 template <class Interface>
 class Role {
 public:
@@ -25,8 +25,6 @@ public:
     Interface* get() const { return own_ ? own_.get() : &NullObject<Interface>(); }
     Interface& operator*() const { return *get(); }
     Interface* operator->() const { return get(); }
-    /// Always: there is a null object at least.
-    explicit operator bool() const { return true; }
 
 private:
     std::unique_ptr<Interface> own_;
