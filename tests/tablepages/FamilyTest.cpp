@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "html/FontType.h"
 #include "tablepages/PageLinks.h"
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
+#include "tablepages/TableTypes.h"
 
 namespace ostrel::test {
 

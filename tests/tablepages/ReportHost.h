@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "control/PageScopeOf.h"
-#include "html/PageParts.h"
+#include "html/PageDraft.h"
 #include "support/MemoryFiles.h"
 #include "tablepages/PageCreateTable.h"
 #include "tablepages/PageNames.h"

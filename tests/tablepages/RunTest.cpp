@@ -4,7 +4,6 @@
 
 #include "platform/headless/VirtualClock.h"
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::test {
 

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "html/FontType.h"
 #include "tablepages/PageLinks.h"
 #include "tablepages/ReportHost.h"
+#include "tablepages/TableTypes.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::test {
 
