@@ -166,6 +166,18 @@ TEST(Persistence, ValuesConvertOrArePassedOver) {
     }
 }
 
+TEST(FileBagText, AKeyFromTheMiddleLeavesTheOthers) {
+    MapBag bag;
+    for (const char* key : {"A", "B", "C", "D"}) bag.Write(key, Text(key));
+    bag.Remove("B");
+    bag.Write("D", Text("new"));
+    bag.Write("E", Text("E"));
+    EXPECT_EQ(FormatBag(bag), "# Properties of an OstrelWebHelp control\n"
+                              "A = \"A\"\nC = \"C\"\nD = \"new\"\nE = \"E\"\n");
+    EXPECT_EQ(bag.Read("C"), PropertyValue(Text("C")));
+    EXPECT_FALSE(bag.Read("B"));
+}
+
 TEST(FileBagText, KeepsWhatIsGood) {
     MapBag bag;
     ParseBag("\xEF\xBB\xBFHelpDelay = 1\r\n"

@@ -3,11 +3,14 @@
 #include "html/PageSave.h"
 #include "html/PageText.h"
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
 #include "html/DocumentScan.h"
 #include "html/FontType.h"
 #include "html/PageWorld.h"
+#include "platform/headless/VirtualClock.h"
 
 namespace ostrel::html {
 namespace {
@@ -104,6 +107,20 @@ TEST(PageParts, DocumentTagsAreFoundWhereverTheyStand) {
 Text Wrapped(test::PageWorld& world, Long width, const Text& text) {
     world.help.HelpPageWidth = width;
     return PageLineWrap(world.scope, Rope(text)).ToText();
+}
+
+TEST(PageParts, LineWrapGivesWayAfterEachLine) {
+    test::PageWorld world;
+    auto clock = std::make_unique<VirtualClock>();
+    int turns = 0;
+    std::function<void()> turn = [&, queue = clock.get()] {
+        ++turns;
+        queue->Post(turn);
+    };
+    clock->Post(turn);
+    world.platform.clock = std::move(clock);
+    Wrapped(world, 40, "a\r\nb\r\n");
+    EXPECT_EQ(turns, 3) << "the LF behind the last CR is a line of its own";
 }
 
 TEST(PageParts, LineWrap) {

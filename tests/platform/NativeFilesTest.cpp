@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "platform/native/NameMask.h"
+#include "support/FaultyCalls.h"
 #include "support/TemporaryDirectory.h"
 
 using namespace ostrel;
@@ -274,6 +275,64 @@ TEST_F(NativeFilesTest, ReplacingKeepsModeLinksAndBackup) {
     ASSERT_TRUE(Replace(directory.Component("fresh.htm"), "x", directory.Component("fresh.bak")));
     EXPECT_EQ(directory.Names(), (std::set<std::string>{"chain.htm", "dangling.htm", "fresh.htm", "loop.htm",
                                                         "new.htm", "page.bak", "page.htm", "sub"}));
+}
+
+/// What is open, and what a program that is started would inherit of it.
+struct Descriptors {
+    int open = 0, inherited = 0;
+
+    Descriptors() {
+        for (int file = 0; file < 256; ++file) {
+            const int flags = ::fcntl(file, F_GETFD);
+            open += flags >= 0;
+            inherited += flags >= 0 && (flags & FD_CLOEXEC) == 0;
+        }
+    }
+};
+
+TEST_F(NativeFilesTest, NewFilesFollowTheUsersMaskAndNothingStaysOpen) {
+    /// Sees what lies in the directory while a page is written.
+    struct Watching final : ostrel::test::FaultyCalls {
+        int Rename(const char* from, const char* to) override {
+            names = place->Names();
+            return FaultyCalls::Rename(from, to);
+        }
+        const TemporaryDirectory* place = nullptr;
+        std::set<std::string> names;
+    } watching;
+    watching.place = &directory;
+    watching.unnamedFiles = false;
+    NativeFiles named(watching);
+    const Descriptors before;
+    const mode_t mask = ::umask(027);
+    ASSERT_TRUE(Replace(directory.Component("a.htm"), "x"));
+    ASSERT_TRUE(named.Replace(directory.Component("b.htm"), {}));
+    ASSERT_TRUE(files.MakeDirectory(directory.Component("sub")));
+    ::umask(mask);
+    EXPECT_EQ(ModeOf("a.htm"), 0640u);
+    EXPECT_EQ(ModeOf("b.htm"), 0640u);
+    EXPECT_EQ(ModeOf("sub"), 0750u);
+
+    ASSERT_TRUE(named.Replace(directory.Component("a.htm"), {}));
+    watching.names.erase("a.htm");
+    watching.names.erase("b.htm");
+    watching.names.erase("sub");
+    ASSERT_EQ(watching.names.size(), 1u);
+    EXPECT_TRUE(watching.names.begin()->starts_with(".ostrel-") &&
+                watching.names.begin()->ends_with(".part"));
+
+    std::unique_ptr<FileReader> reader;
+    ASSERT_TRUE(files.Open(directory.Component("a.htm"), reader));
+    EXPECT_EQ(Descriptors().open, before.open + 1);
+    EXPECT_EQ(Descriptors().inherited, before.inherited);
+    reader.reset();
+    Text path;
+    ASSERT_TRUE(files.MakeTemporary("wbh", path));
+    EXPECT_EQ(std::filesystem::status(NativePaths().ToSystem(path).value()).permissions(),
+              std::filesystem::perms(0600));
+    ASSERT_TRUE(files.Delete(path));
+    EXPECT_FALSE(files.Read(directory.Component("sub"), path));
+    EXPECT_EQ(Descriptors().open, before.open);
 }
 
 TEST_F(NativeFilesTest, WritesDevicesInPlace) {

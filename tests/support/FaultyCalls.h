@@ -12,7 +12,7 @@ namespace ostrel::test {
 
 /// The system with one fault: the n-th call fails, every close or access does, writes are short, or the disk
 /// is full.
-class FaultyCalls final : public SystemCalls {
+class FaultyCalls : public SystemCalls {
 public:
     void FailAt(int call, int error) {
         failing_ = call;

@@ -116,6 +116,10 @@ const std::vector<Family>& Families() {
              options.PageTableHeaderLinksBold = true;
              options.PageTableHeaderLinksItalic = true;
              options.PageTableHeaderLinksSize = "2";
+             options.PageTableBodyPattern = owhPatternRows;
+             options.PageTableBodyColor = "#EEEEEE";
+             host.tags = Grid<Text>(4, 3);
+             for (Long row = 1; row <= 4; ++row) host.tags.Put(row, 3, "NOWRAP");
              AddLink(host, "Home", "index.htm", false);
          }},
         {"own-tags",
