@@ -1,6 +1,7 @@
 #include "control/Guard.h"
 #include "control/Version.h"
 #include "ui/AboutForm.h"
+#include "ui/Dialogs.h"
 
 namespace ostrel {
 
@@ -13,13 +14,7 @@ void OstrelWebHelp::ShowAboutBox() {
                         .created = {},
                         .description = "Help pages, reports and HTML for applications.",
                         .disclaimer = {}});
-        form.icon = state_.control.Icon;
-        if (const Screen* screen = context_.platform.screen.get()) {
-            const Bounds place = CentreOnScreen({0, 0, form.width, form.height}, screen->Area());
-            form.left = place.left;
-            form.top = place.top;
-        }
-        form.Show(context_.platform);
+        ShowDialog({context_, state_.dialog}, form, Centred{});
     });
 }
 
@@ -34,10 +29,7 @@ void OstrelWebHelp::ShowOstrelAboutBox(const Text& ProgramName, Long Major, Long
                         .created = CreationDate,
                         .description = Description,
                         .disclaimer = Disclaimer});
-        form.icon = state_.control.Icon;
-        form.left = Left;
-        form.top = Top;
-        form.Show(context_.platform);
+        ShowDialog({context_, state_.dialog}, form, At{.left = Left, .top = Top});
     });
 }
 

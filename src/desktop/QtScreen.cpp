@@ -50,7 +50,9 @@ void QtScreen::ShowModal(Form& form) {
     // On the heap, since the dialog goes with its owner, whenever that is.
     const QPointer<FormDialog> dialog = new FormDialog(form, Window());
     dialog->exec();
+    const std::exception_ptr failure = dialog ? dialog->Failure() : nullptr;
     delete dialog;
+    if (failure) std::rethrow_exception(failure);
 }
 
 Long QtScreen::Message(MessageKind kind, const Text& text, const Text& title, Long buttons) {

@@ -48,6 +48,11 @@ MessageBox::MessageBox(MessageKind messageKind, Text message, Text title, Long b
     }
 }
 
+Long MessageBox::Ask(Platform& platform) {
+    Show(platform);
+    return answer_;
+}
+
 FieldValue MessageBox::Look(std::string_view field) const {
     return field == "text" ? FieldValue(text) : Form::Look(field);
 }

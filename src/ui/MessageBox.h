@@ -16,6 +16,8 @@ public:
     /// 1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7 No. A box that is closed by its close box gives
     /// its most harmless one: No, else Cancel, else OK, else Abort.
     Long Answer() const { return answer_; }
+    /// Shows it on a screen that has no message boxes of its own, and returns the answer.
+    Long Ask(Platform& platform);
     FieldValue Look(std::string_view field) const override;
 
 private:

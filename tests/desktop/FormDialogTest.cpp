@@ -126,11 +126,11 @@ void FormDialogTest::HandlersChangeOtherControls() {
         form.line.text = "from the button";
         form.list.items = {"delta"};
         form.list.index = 0;
-        form.typed.items.push_back("14pt");
+        form.typed.items.Change().push_back("14pt");
         form.typed.Show(3);
         form.frame.visible = false;
         form.tick.enabled = false;
-        form.grid.rows.resize(2);
+        form.grid.rows.Change().resize(2);
         form.caption = "Other";
         form.button.caption = "Again";
         form.patch.colour = 0x00FF00;
@@ -153,7 +153,7 @@ void FormDialogTest::HandlersChangeOtherControls() {
         QCOMPARE(form.focus->name, Text("txtLine"));
     });
     // What the handler of a box makes of the typed text is what stands there, with the caret where it was.
-    form.line.onChange = [&form] { form.line.text = form.line.text.substr(0, 3); };
+    form.line.onChange = [&form] { form.line.text = form.line.text->substr(0, 3); };
     form.line.text = "abc";
     bench.Show(form, [](QDialog& dialog) {
         auto* edit = FormBench::Find<QLineEdit>(dialog, "txtLine");
@@ -228,7 +228,7 @@ void FormDialogTest::OptionsExcludeEachOtherInTheirGroup() {
         const auto chosen = [&] {
             QString model, shown;
             for (const OptionButton* each : {&form.a, &form.b, &form.c, &form.d, &form.e}) {
-                if (each->value) model += desktop::ToQt(each->caption);
+                if (each->value) model += desktop::ToQt(*each->caption);
                 const auto* radio = dialog.findChild<QRadioButton*>(desktop::ToQt(each->name));
                 if (radio->isChecked()) shown += radio->text();
             }
