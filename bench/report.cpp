@@ -124,7 +124,7 @@ int main(int count, char** arguments) {
     }
 
     ostrel::HeadlessPlatform platform = ostrel::MakeHeadlessPlatform(false);
-    platform.pane.reset();
+    platform.pane = nullptr;
     ostrel::Text path = "C:" + directory + "/report.htm";
     std::replace(path.begin(), path.end(), '/', '\\');
     const auto make = [&](const ostrel::Text& file, bool sorted) {

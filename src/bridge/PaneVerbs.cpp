@@ -67,7 +67,7 @@ void CommandStateChange(BrowserSink& sink, Arguments& arguments, CallAnswer&) {
     const Long command = arguments.Take<Long>("Command");
     const Flag enable = arguments.TakeOr<Flag>("Enable", true);
     arguments.End();
-    sink.CommandStateChange(command, enable);
+    sink.CommandStateChange(static_cast<HistoryCommand>(command), enable);
 }
 
 void ProgressChange(BrowserSink& sink, Arguments& arguments, CallAnswer&) {
@@ -114,8 +114,10 @@ void Bridge::Pane(const Json& request, CallAnswer& answer) {
         WriteLog(pane.TakeLog(), answer);
     } else if (what.is_object()) {
         const auto busy = ReadKey<Flag>(what, "Busy");
+        const auto readyState = ReadKey<Long>(what, "ReadyState");
         pane.Report(ReadKey<Text>(what, "LocationURL"), ReadKey<Text>(what, "LocationName"),
-                    busy ? std::optional<bool>(*busy) : std::nullopt, ReadKey<Long>(what, "ReadyState"));
+                    busy ? std::optional<bool>(*busy) : std::nullopt,
+                    readyState ? std::optional(static_cast<LoadState>(*readyState)) : std::nullopt);
     } else {
         throw Refusal("pane must be hold, log or an object of what a held pane reports.");
     }

@@ -134,10 +134,9 @@ void ReportRun::SetUp() {
     auto files = std::make_unique<ReportFiles>(MakeNativeFiles(), options_.input, options_.directory, page_);
     files_ = files.get();
     platform_ = MakeHeadlessPlatform(false);
-    platform_.pane.reset(); // a report shows nothing
+    platform_.pane = nullptr; // a report shows nothing
     platform_.files = std::move(files);
-    platform_.clock =
-        std::make_unique<StopClock>(std::move(platform_.clock), [this] { web_->HostStop(true); });
+    platform_.clock = std::make_unique<StopClock>(MakeNativeClock(), [this] { web_->HostStop(true); });
     web_ = std::make_unique<OstrelWebHelp>(platform_);
     OstrelWebHelp& web = *web_;
     web.InitProperties();

@@ -6,7 +6,6 @@ namespace ostrel {
 
 namespace {
 
-constexpr Long CurrentUser = -2147483647;
 constexpr Long TextType = 1;
 constexpr TextView BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer\\";
 
@@ -21,7 +20,7 @@ void OstrelWebHelp::NavigatePane(const Text& url) {
 }
 
 void OstrelWebHelp::RefreshPane(Long level) {
-    if (Pane()) Pane()->Refresh2(level);
+    if (Pane()) Pane()->Refresh2(static_cast<RefreshLevel>(level));
     frame_->children.Default(ActionStop).enabled = true;
     frame_->children.Default(ActionRefresh).enabled = false;
     frame_->pane.PendingRefresh = true;
@@ -92,7 +91,7 @@ void OstrelWebHelp::Cancel() {
 
 Flag OstrelWebHelp::Busy() { return Pane() && Pane()->Busy(); }
 
-Long OstrelWebHelp::ReadyState() { return Pane() ? Pane()->ReadyState() : 0; }
+Long OstrelWebHelp::ReadyState() { return static_cast<Long>(Pane()->ReadyState()); }
 
 void OstrelWebHelp::Refresh() {
     Guarded([&] { RefreshPane(0); });
@@ -124,14 +123,14 @@ void OstrelWebHelp::BrowserSetFooter(const Text& Value) { BrowserSetSetting("Pag
 
 Text OstrelWebHelp::BrowserGetSetting(const Text& KeyName, const Text& ValueName) {
     return Guarded([&]() -> Text {
-        const Variant value = QueryValue(CurrentUser, Text(BrowserKey) + KeyName, ValueName);
+        const Variant value = QueryValue(CurrentUserArea, Text(BrowserKey) + KeyName, ValueName);
         const Text* text = std::get_if<Text>(&value);
         return text ? *text : FromDouble(std::get<Double>(value));
     });
 }
 
 void OstrelWebHelp::BrowserSetSetting(const Text& KeyName, const Text& ValueName, const Text& Value) {
-    Guarded([&] { SetKeyValue(CurrentUser, Text(BrowserKey) + KeyName, ValueName, Value, TextType); });
+    Guarded([&] { SetKeyValue(CurrentUserArea, Text(BrowserKey) + KeyName, ValueName, Value, TextType); });
 }
 
 } // namespace ostrel

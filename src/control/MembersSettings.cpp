@@ -10,7 +10,8 @@ namespace {
 services::Settings SettingsOf(Context& context, const State& state) { return {context, state.service}; }
 
 Long Show(const Context& context, const Text& title, MessageKind kind, const Text& text, Long buttons) {
-    return context.platform.screen ? context.platform.screen->Message(kind, text, title, buttons) : 0;
+    return static_cast<Long>(
+        context.platform.screen->Message(kind, text, title, static_cast<MessageButtons>(buttons)));
 }
 
 void Wait(const Context& context, Long milliseconds) {

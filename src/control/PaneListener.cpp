@@ -45,13 +45,12 @@ void PaneListener::NewWindow2(bool own) {
     web_.Guarded([&] { web_.events.NewWindow2(); });
 }
 
-void PaneListener::CommandStateChange(Long command, bool enable) {
-    constexpr Long Forward = 1, Back = 2;
+void PaneListener::CommandStateChange(HistoryCommand command, bool enable) {
     web_.Guarded([&] {
-        if (command == Forward) {
+        if (command == HistoryCommand::Forward) {
             web_.events.ForwardState.Tell(enable);
             web_.frame_->children.Default(ActionForward).enabled = enable;
-        } else if (command == Back) {
+        } else if (command == HistoryCommand::Back) {
             web_.events.BackState.Tell(enable);
             web_.frame_->children.Default(ActionBack).enabled = enable;
         }

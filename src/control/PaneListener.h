@@ -14,7 +14,7 @@ public:
     void NavigateComplete2(const Text& url, bool topLevel) override;
     void DocumentComplete(const Text& url, bool topLevel) override;
     void NewWindow2(bool own) override;
-    void CommandStateChange(Long command, bool enable) override;
+    void CommandStateChange(HistoryCommand command, bool enable) override;
     void ProgressChange(Long progress, Long maximum) override;
     void StatusTextChange(const Text& text) override;
     void TitleChange(const Text& text) override;

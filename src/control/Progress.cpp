@@ -24,7 +24,7 @@ Text SecondsSoFar(LoadClock& clock, std::uint32_t ticks) {
 
 void OstrelWebHelp::SetPointer(Long shape) {
     frame_->children.control.pointer = shape;
-    if (context_.platform.screen) context_.platform.screen->MousePointer(shape);
+    if (context_.platform.screen) context_.platform.screen->MousePointer(static_cast<PointerShape>(shape));
 }
 
 void OstrelWebHelp::StopShow(const Text& Heading) {

@@ -27,7 +27,7 @@ public:
 
 private:
     Platform& platform_;
-    std::unique_ptr<Files> own_;
+    Role<Files> own_;
 };
 
 Text Html(const QString& text) { return tables::HtmlArgument(text.toStdString()); }

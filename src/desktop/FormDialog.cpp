@@ -172,7 +172,7 @@ void FormDialog::PressEnter() {
     if (auto* button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
     const auto& all = form_.Controls();
     const auto ok = std::find_if(all.begin(), all.end(), [](const Control* each) {
-        return each->role == Role::Accept && each->Reachable();
+        return each->purpose == Purpose::Accept && each->Reachable();
     });
     if (ok != all.end()) Carry([&] { (*ok)->Press(); });
 }

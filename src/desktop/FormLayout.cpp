@@ -21,7 +21,7 @@ bool IsLarge(const ShownControl& shown) {
     return shown.TakenRoom() == Room::List || shown.TakenRoom() == Room::Editor;
 }
 
-bool HasRole(const ShownControl* shown, Role role) { return shown->Model().role == role; }
+bool Serves(const ShownControl* shown, Purpose purpose) { return shown->Model().purpose == purpose; }
 
 /// Fills one area: the dialog, or a frame in it.
 class Arranger {
@@ -54,7 +54,7 @@ bool Arranger::Fill(const Control* container) {
     for (ShownControl* shown : Matching([container](const Control& control) {
              return control.container == container && !control.beside;
          }))
-        (container || HasRole(shown, Role::None) ? body : foot).push_back(shown);
+        (container || Serves(shown, Purpose::None) ? body : foot).push_back(shown);
     for (auto at = body.begin(); at != body.end();) {
         if (!IsSmall(*at)) {
             AddRow(**at++);
@@ -145,14 +145,14 @@ void Arranger::AddFoot(const Controls& foot) {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, grid_.contentsMargins().top() / 2, 0, 0);
     // Where no OK ends the form, the others are its main actions and stand where the OK would.
-    const bool confirmed = std::any_of(foot.begin(), foot.end(),
-                                       [](const ShownControl* each) { return HasRole(each, Role::Accept); });
+    const bool confirmed = std::any_of(
+        foot.begin(), foot.end(), [](const ShownControl* each) { return Serves(each, Purpose::Accept); });
     if (!confirmed) row->addStretch();
     for (const ShownControl* each : foot)
-        if (HasRole(each, Role::Footer)) row->addWidget(&each->Widget());
+        if (Serves(each, Purpose::Footer)) row->addWidget(&each->Widget());
     if (confirmed) row->addStretch();
     for (const ShownControl* each : foot)
-        if (!HasRole(each, Role::Footer)) row->addWidget(&each->Widget());
+        if (!Serves(each, Purpose::Footer)) row->addWidget(&each->Widget());
     grid_.addLayout(row, row_++, 0, 1, 2);
 }
 

@@ -239,27 +239,26 @@ void QtPane::AskEngineAgain() {
         page_->load(url);
 }
 
-void QtPane::Refresh2(Long level) {
+void QtPane::Refresh2(RefreshLevel level) {
     if (shown_.isEmpty()) return;
-    constexpr Long Completely = 3;
     asked_.reset();
     ++requests_;
     if (IsBlank(shown_)) Begin(Way::Refresh, shown_);
-    page_->triggerAction(level == Completely ? QWebEnginePage::ReloadAndBypassCache : QWebEnginePage::Reload);
+    page_->triggerAction(level == RefreshLevel::Completely ? QWebEnginePage::ReloadAndBypassCache
+                                                           : QWebEnginePage::Reload);
 }
 
-void QtPane::ExecWB(Long command, Long) {
-    constexpr Long Copy = 12, SelectAll = 17;
-    if (command == Copy) page_->triggerAction(QWebEnginePage::Copy);
-    if (command == SelectAll) page_->triggerAction(QWebEnginePage::SelectAll);
+void QtPane::ExecWB(PaneCommand command, PaneCommandOption) {
+    if (command == PaneCommand::Copy) page_->triggerAction(QWebEnginePage::Copy);
+    if (command == PaneCommand::SelectAll) page_->triggerAction(QWebEnginePage::SelectAll);
 }
 
 Text QtPane::LocationName() const { return FromQt(page_->title()); }
 
 Text QtPane::LocationURL() const { return Told(shown_); }
 
-Long QtPane::ReadyState() const {
-    constexpr Long Uninitialised = 0, Loading = 1, Interactive = 3, Complete = 4;
+LoadState QtPane::ReadyState() const {
+    using enum LoadState;
     if (asked_) return Loading;
     if (load_ && !load_->halting) return load_->committed ? Interactive : Loading;
     return shown_.isEmpty() ? Uninitialised : Complete;

@@ -43,13 +43,13 @@ public:
     /// A page that does not answer within a second after it, be it in the middle of its layout or in a script
     /// without end, is ended; a line in the pane says so.
     void Stop() override;
-    void Refresh2(Long level) override;
-    /// Command 12 copies the selection, 17 selects all; others are left alone.
-    void ExecWB(Long command, Long option) override;
+    void Refresh2(RefreshLevel level) override;
+    /// Copies the selection or selects all; other commands are left alone.
+    void ExecWB(PaneCommand command, PaneCommandOption option) override;
     Text LocationName() const override;
     Text LocationURL() const override;
     bool Busy() const override { return (load_ && !load_->halting) || asked_; }
-    Long ReadyState() const override;
+    LoadState ReadyState() const override;
     bool Offline() const override { return trust_.Offline(); }
     void Offline(bool offline) override { trust_.Offline(offline); }
     /// Empty as well where the engine does not answer within two seconds.

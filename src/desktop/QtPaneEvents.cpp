@@ -10,7 +10,6 @@ namespace ostrel::desktop {
 
 namespace {
 
-constexpr Long ForwardCommand = 1, BackCommand = 2;
 const Text Done = "done";
 
 /// Until a page has told its title the engine makes do with its file's name or its address.
@@ -198,9 +197,9 @@ void QtPane::TellStates() {
     const bool forward = page_->history()->canGoForward();
     const bool back = page_->history()->canGoBack();
     if (std::exchange(canForward_, forward) != forward)
-        Tell([&](BrowserSink& sink) { sink.CommandStateChange(ForwardCommand, forward); });
+        Tell([&](BrowserSink& sink) { sink.CommandStateChange(HistoryCommand::Forward, forward); });
     if (std::exchange(canBack_, back) != back)
-        Tell([&](BrowserSink& sink) { sink.CommandStateChange(BackCommand, back); });
+        Tell([&](BrowserSink& sink) { sink.CommandStateChange(HistoryCommand::Back, back); });
 }
 
 void QtPane::TellStatus(const Text& text) {

@@ -22,9 +22,6 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 
-/// The name of each answer's button.
-constexpr std::array<TextView, 8> Words{"", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
-
 Long Rounded(double twips) { return static_cast<Long>(std::lround(twips)); }
 
 QMessageBox::Icon IconOf(MessageKind kind) {
@@ -55,10 +52,10 @@ void QtScreen::ShowModal(Form& form) {
     if (failure) std::rethrow_exception(failure);
 }
 
-Long QtScreen::Message(MessageKind kind, const Text& text, const Text& title, Long buttons) {
-    // Knows the buttons, their order and the answer of the close box.
+MessageAnswer QtScreen::Message(MessageKind kind, const Text& text, const Text& title,
+                                MessageButtons buttons) {
+    // Knows the buttons, their order and which of them the close box presses.
     const MessageBox model(kind, text, title, buttons);
-    const TextView harmless = Words[static_cast<std::size_t>(model.Answer())];
     const QPointer<QMessageBox> box =
         new QMessageBox(IconOf(kind), TitleText(title), ShownLines(text), QMessageBox::NoButton, Window());
     box->setTextFormat(Qt::PlainText);
@@ -68,7 +65,7 @@ Long QtScreen::Message(MessageKind kind, const Text& text, const Text& title, Lo
         button->setObjectName(ToQt(control->name));
         QObject::connect(button, &QPushButton::clicked, button, [control] { control->Press(); });
         if (control == model.Controls().front()) box->setDefaultButton(button);
-        if (control->name == harmless) box->setEscapeButton(button);
+        if (control->purpose == Purpose::Cancel) box->setEscapeButton(button);
     }
     box->exec();
     delete box;
@@ -105,14 +102,14 @@ Extent QtScreen::Measure(const Text& text) const {
 
 void QtScreen::Beep() { QApplication::beep(); }
 
-void QtScreen::MousePointer(Long shape) {
+void QtScreen::MousePointer(PointerShape shape) {
     // A modal dialog covers the window, so the pointer stands over either.
     for (QWidget* window : {widget_ ? widget_->window() : nullptr, QApplication::activeModalWidget()}) {
         if (!window) continue;
-        if (shape == 0)
+        if (shape == PointerShape::Default)
             window->unsetCursor();
         else
-            window->setCursor(CursorOf(shape));
+            window->setCursor(CursorOf(static_cast<Long>(shape)));
     }
 }
 

@@ -14,12 +14,13 @@ public:
     explicit QtScreen(QWidget& widget) : widget_(&widget) {}
 
     void ShowModal(Form& form) override;
-    Long Message(MessageKind kind, const Text& text, const Text& title, Long buttons) override;
+    MessageAnswer Message(MessageKind kind, const Text& text, const Text& title,
+                          MessageButtons buttons) override;
     Bounds Area() const override;
     Extent Pixel() const override;
     Extent Measure(const Text& text) const override;
     void Beep() override;
-    void MousePointer(Long shape) override;
+    void MousePointer(PointerShape shape) override;
 
 private:
     QWidget* Window() const;

@@ -38,7 +38,7 @@ public:
         : ShownControl(button, push, Room::Button), button_(button), push_(push) {
         // Enter is the dialog's: the toolkit's own default would be any button.
         push.setAutoDefault(false);
-        push.setDefault(button.role == Role::Accept);
+        push.setDefault(button.purpose == Purpose::Accept);
         QObject::connect(&push, &QPushButton::clicked, &push,
                          [&button, &user] { user.Act(button, [&] { button.Press(); }); });
     }

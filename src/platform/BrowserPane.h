@@ -4,6 +4,20 @@
 
 namespace ostrel {
 
+/// A way through the history, whose state a pane reports. Other numbers are states that nobody needs.
+enum class HistoryCommand : Long { Forward = 1, Back = 2 };
+
+/// How much of a page a refresh loads anew.
+enum class RefreshLevel : Long { Plain = 0, IfExpired = 1, Completely = 3 };
+
+/// What a pane can do with its page.
+enum class PaneCommand : Long { Print = 6, Copy = 12, SelectAll = 17 };
+
+enum class PaneCommandOption : Long { Default = 0, DontPromptUser = 2 };
+
+/// How far a page has come.
+enum class LoadState : Long { Uninitialised, Loading, Loaded, Interactive, Complete };
+
 /// What a pane tells. The control is the one that listens. `topLevel` is false for frames inside the page.
 class BrowserSink {
 public:
@@ -13,8 +27,7 @@ public:
     virtual void DocumentComplete(const Text& url, bool topLevel) = 0;
     /// `own`: the pane's own object asks.
     virtual void NewWindow2(bool own) = 0;
-    /// Command 1 is forward, 2 is back.
-    virtual void CommandStateChange(Long command, bool enable) = 0;
+    virtual void CommandStateChange(HistoryCommand command, bool enable) = 0;
     virtual void ProgressChange(Long progress, Long maximum) = 0;
     virtual void StatusTextChange(const Text& text) = 0;
     virtual void TitleChange(const Text& text) = 0;
@@ -38,15 +51,14 @@ public:
     virtual void GoHome() = 0;
     virtual void GoSearch() = 0;
     virtual void Stop() = 0;
-    /// 0 plain, 1 if expired, 3 completely.
-    virtual void Refresh2(Long level) = 0;
-    virtual void ExecWB(Long command, Long option) = 0;
+    virtual void Refresh2(RefreshLevel level) = 0;
+    /// Commands that the engine does not know are left alone.
+    virtual void ExecWB(PaneCommand command, PaneCommandOption option) = 0;
 
     virtual Text LocationName() const = 0;
     virtual Text LocationURL() const = 0;
     virtual bool Busy() const = 0;
-    /// 0 to 4, 4 for complete.
-    virtual Long ReadyState() const = 0;
+    virtual LoadState ReadyState() const = 0;
     virtual bool Offline() const = 0;
     virtual void Offline(bool offline) = 0;
     /// "innerhtml", "innertext", "outerhtml" or "outertext" of the body; empty for any other word.

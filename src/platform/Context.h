@@ -25,7 +25,7 @@ struct Context {
 
     /// The yield: runs due timers and the host's pending work. Costs next to nothing when nothing waits.
     void GiveWay() const {
-        if (platform.clock && platform.clock->Pending()) platform.clock->Yield();
+        if (platform.clock->Pending()) platform.clock->Yield();
     }
 };
 

@@ -9,6 +9,15 @@ class Form;
 /// The icon of a message box.
 enum class MessageKind { Error, Info, Warn, Query };
 
+/// The buttons of a message box, from left to right.
+enum class MessageButtons : Long { Ok, OkCancel, AbortRetryIgnore, YesNoCancel, YesNo, RetryCancel };
+
+/// The button that ended a message box; `None` where no screen could show it.
+enum class MessageAnswer : Long { None, Ok, Cancel, Abort, Retry, Ignore, Yes, No };
+
+/// The pointer over the component. Other numbers are shapes that a host may choose for a child.
+enum class PointerShape : Long { Default = 0, Hourglass = 11 };
+
 struct Bounds {
     Long left = 0, top = 0, width = 0, height = 0;
     bool operator==(const Bounds&) const = default;
@@ -25,17 +34,17 @@ public:
 
     /// Shows the form until it is closed; everything pending runs meanwhile.
     virtual void ShowModal(Form& form) = 0;
-    /// `buttons`: 0 OK, 1 OK Cancel, 2 Abort Retry Ignore, 3 Yes No Cancel, 4 Yes No, 5 Retry Cancel.
-    /// Answers 1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7 No.
-    virtual Long Message(MessageKind kind, const Text& text, const Text& title, Long buttons) = 0;
+    /// Shows a message box until one of its buttons is pressed; everything pending runs meanwhile. Unknown
+    /// buttons are a single OK.
+    virtual MessageAnswer Message(MessageKind kind, const Text& text, const Text& title,
+                                  MessageButtons buttons) = 0;
     virtual Bounds Area() const = 0;
     /// Twips of one pixel.
     virtual Extent Pixel() const = 0;
     /// The room that a text takes in the font of labels.
     virtual Extent Measure(const Text& text) const = 0;
     virtual void Beep() = 0;
-    /// 0 default, 1 arrow, 11 hourglass.
-    virtual void MousePointer(Long shape) = 0;
+    virtual void MousePointer(PointerShape shape) = 0;
 };
 
 } // namespace ostrel

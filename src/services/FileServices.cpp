@@ -12,8 +12,6 @@ namespace ostrel::services {
 namespace {
 
 constexpr Long AccessDenied = 75;
-constexpr Long YesNoButtons = 4;
-constexpr Long YesAnswer = 6;
 
 bool HasWildCard(TextView path) { return path.find_first_of("*?") != NotFound; }
 
@@ -215,9 +213,9 @@ bool WriteFileFull(Context& context, const Text& title, const Text& path, const 
     if (FileExists(files, file)) {
         if (options.askOverwrite) {
             const Text question = "File [" + file + "] exists.  Do you want to Overwrite?";
-            Screen* screen = context.platform.screen.get();
             // A declined question is no failure; without a screen nobody could have agreed.
-            if (!screen || screen->Message(MessageKind::Query, question, title, YesNoButtons) != YesAnswer)
+            if (context.platform.screen->Message(MessageKind::Query, question, title,
+                                                 MessageButtons::YesNo) != MessageAnswer::Yes)
                 return true;
         } else if (!options.overwrite) {
             error = "File [" + file + "] exists.";

@@ -13,7 +13,7 @@ Double NumberOf(const Text& text) { return ToDouble(text).value_or(LeadingNumber
 } // namespace
 
 std::optional<Text> Settings::Find(const Text& section, const Text& key) const {
-    if (properties_.RegistryApp.empty() || !context_.platform.settings) return std::nullopt;
+    if (properties_.RegistryApp.empty()) return std::nullopt;
     return context_.platform.settings->Get(properties_.RegistryApp, section, key);
 }
 
@@ -39,7 +39,7 @@ Long Settings::GetLong(const Text& section, const Text& key, Long fallback) cons
 }
 
 void Settings::Save(const Text& section, const Text& key, const Text& value) const {
-    if (properties_.RegistryApp.empty() || !context_.platform.settings) return;
+    if (properties_.RegistryApp.empty()) return;
     Trace(context_.platform.settings->Save(properties_.RegistryApp, section, key, value));
 }
 
@@ -57,23 +57,21 @@ void Settings::SaveLong(const Text& section, const Text& key, Long value) const 
 
 void Settings::DeleteKey(const Text& section, const Text& key) const {
     if (section.empty() || key.empty()) return;
-    if (properties_.RegistryApp.empty() || !context_.platform.settings) return;
+    if (properties_.RegistryApp.empty()) return;
     Trace(context_.platform.settings->DeleteKey(properties_.RegistryApp, section, key));
 }
 
 void Settings::DeleteSection(const Text& section) const {
-    if (section.empty() || properties_.RegistryApp.empty() || !context_.platform.settings) return;
+    if (section.empty() || properties_.RegistryApp.empty()) return;
     Trace(context_.platform.settings->DeleteSection(properties_.RegistryApp, section));
 }
 
 Variant Settings::Query(Long area, const Text& key, const Text& name) const {
-    if (!context_.platform.settings) return Text();
     return context_.platform.settings->Query(area, key, name).value_or(Text());
 }
 
 void Settings::Set(Long area, const Text& key, const Text& name, const Variant& value, Long type) const {
     constexpr Long textType = 1, numberType = 4;
-    if (!context_.platform.settings) return;
     const Text* text = std::get_if<Text>(&value);
     const Double number = text ? 0 : std::get<Double>(value);
     if (type == textType) {

@@ -9,8 +9,7 @@ SortEvents::SortEvents(Context& context) : context_(context) {
 }
 
 bool SortEvents::Watched() {
-    const auto& clock = context_.platform.clock;
-    pending_ = clock && clock->Pending();
+    pending_ = context_.platform.clock->Pending();
     return pending_ || context_.events.SortProgress.Heard();
 }
 

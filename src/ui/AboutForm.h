@@ -22,7 +22,7 @@ public:
     Label lblCreated{*this, "lblCreated"};
     Label lblDescription{*this, "lblDescription"};
     Label lblDisclaimer{*this, "lblDisclaimer"};
-    Button cmdOK{*this, "cmdOK", "OK", Role::Accept};
+    Button cmdOK{*this, "cmdOK", "OK", Purpose::Accept};
 };
 
 } // namespace ostrel

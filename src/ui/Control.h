@@ -21,7 +21,7 @@ enum class ControlKind {
 };
 
 /// What a control is for in its form as a whole.
-enum class Role {
+enum class Purpose {
     None,
     Accept, ///< the OK: Enter presses it
     Cancel, ///< leaves the form as its close box does
@@ -53,7 +53,7 @@ public:
     /// The control whose row it shares, before or behind it in the order of declaration: a label, a button
     /// that chooses a value, a patch of colour. Null for a row of its own.
     const Control* beside = nullptr;
-    Role role = Role::None;
+    Purpose purpose = Purpose::None;
     /// What it adds to the form's option letters while it is ticked; 0 for none.
     char letter = 0;
 

@@ -164,9 +164,9 @@ Fields ComboBox::Look() const {
 void Button::Press() {
     if (onClick)
         onClick();
-    else if (role == Role::Accept)
+    else if (purpose == Purpose::Accept)
         form_.Finish();
-    else if (role == Role::Cancel)
+    else if (purpose == Purpose::Cancel)
         form_.CloseBox();
 }
 

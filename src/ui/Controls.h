@@ -121,15 +121,15 @@ public:
     Fields Look() const override;
 };
 
-/// A button to press. Without a handler it does what its role says.
+/// A button to press. Without a handler it does what it is for.
 class Button final : public Control {
 public:
     Button(Form& form, std::string_view controlName, Text text, Handler clicked = {})
         : Control(form, ControlKind::Button, controlName), caption(*this, std::move(text)),
           onClick(std::move(clicked)) {}
-    Button(Form& form, std::string_view controlName, Text text, Role buttonRole, Handler clicked = {})
+    Button(Form& form, std::string_view controlName, Text text, Purpose buttonPurpose, Handler clicked = {})
         : Button(form, controlName, std::move(text), std::move(clicked)) {
-        role = buttonRole;
+        purpose = buttonPurpose;
     }
     Tracked<Text> caption;
     Handler onClick;

@@ -41,7 +41,6 @@ struct Corner {
 
 bool ShowDialog(const Dialogs& dialogs, Form& form, const DialogPlace& place) {
     Platform& platform = dialogs.context.platform;
-    if (!platform.screen) return false;
     form.icon = dialogs.properties.Icon;
     form.onTop = dialogs.properties.DialogOnTop;
     const At corner = std::visit(Corner{dialogs.context, form}, place);

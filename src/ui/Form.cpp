@@ -15,7 +15,7 @@ public:
         form_.open_ = true;
         for (Control* control : form_.controls_) {
             if (!form_.focus && control->TakesFocus() && control->Reachable()) form_.focus = control;
-            if (platform.clock) control->BeginShow(*platform.clock);
+            control->BeginShow(*platform.clock);
         }
     }
     ~Showing() {
@@ -33,7 +33,6 @@ Form::Form(std::string_view formName, Text formCaption)
     : name(formName), caption(*this, std::move(formCaption)) {}
 
 bool Form::Show(Platform& platform) {
-    if (!platform.screen) return false;
     {
         const Showing showing(*this, platform);
         Load();
@@ -78,8 +77,8 @@ void Form::Finish() {
 }
 
 bool Form::Fault(Control& faulty, const Text& message) {
-    if (platform_ && platform_->screen)
-        platform_->screen->Message(MessageKind::Error, message, *caption + " Error", 0);
+    if (platform_)
+        platform_->screen->Message(MessageKind::Error, message, *caption + " Error", MessageButtons::Ok);
     focus = &faulty;
     return false;
 }

@@ -7,48 +7,51 @@ namespace ostrel {
 
 namespace {
 
-constexpr Long Ok = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7;
-constexpr std::array<std::string_view, 8> Words{"", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
+using enum MessageAnswer;
 
-std::vector<Long> AnswersOf(Long buttons) {
+std::vector<MessageAnswer> AnswersOf(MessageButtons buttons) {
     switch (buttons) {
-    case 1:
+    case MessageButtons::OkCancel:
         return {Ok, Cancel};
-    case 2:
+    case MessageButtons::AbortRetryIgnore:
         return {Abort, Retry, Ignore};
-    case 3:
+    case MessageButtons::YesNoCancel:
         return {Yes, No, Cancel};
-    case 4:
+    case MessageButtons::YesNo:
         return {Yes, No};
-    case 5:
+    case MessageButtons::RetryCancel:
         return {Retry, Cancel};
     default:
         return {Ok};
     }
 }
 
-Long HarmlessOf(const std::vector<Long>& answers) {
-    for (const Long answer : {No, Cancel, Ok})
+MessageAnswer HarmlessOf(const std::vector<MessageAnswer>& answers) {
+    for (const MessageAnswer answer : {No, Cancel, Ok})
         if (std::find(answers.begin(), answers.end(), answer) != answers.end()) return answer;
     return Abort;
 }
 
+/// The words of the buttons, by the answer that they give.
+constexpr std::array<std::string_view, 8> Words{"", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
+
 } // namespace
 
-MessageBox::MessageBox(MessageKind messageKind, Text message, Text title, Long buttons)
+MessageBox::MessageBox(MessageKind messageKind, Text message, Text title, MessageButtons buttons)
     : Form("MessageBox", std::move(title)), kind(messageKind), text(std::move(message)) {
-    const std::vector<Long> answers = AnswersOf(buttons);
+    const std::vector<MessageAnswer> answers = AnswersOf(buttons);
     answer_ = HarmlessOf(answers);
-    for (const Long answer : answers) {
+    for (const MessageAnswer answer : answers) {
         const std::string_view word = Words[static_cast<std::size_t>(answer)];
-        buttons_.push_back(std::make_unique<Button>(*this, word, Text(word), [this, answer] {
+        const Purpose purpose = answer == answer_ ? Purpose::Cancel : Purpose::None;
+        buttons_.push_back(std::make_unique<Button>(*this, word, Text(word), purpose, [this, answer] {
             answer_ = answer;
             Close();
         }));
     }
 }
 
-Long MessageBox::Ask(Platform& platform) {
+MessageAnswer MessageBox::Ask(Platform& platform) {
     Show(platform);
     return answer_;
 }

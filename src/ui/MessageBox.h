@@ -4,25 +4,26 @@
 
 namespace ostrel {
 
-/// A message with one to three buttons, which are named by their words.
+/// A message with one to three buttons, which are named by their words. The most harmless is the one
+/// to cancel by.
 class MessageBox final : public Form {
 public:
-    /// `buttons`: 0 OK, 1 OK Cancel, 2 Abort Retry Ignore, 3 Yes No Cancel, 4 Yes No, 5 Retry Cancel.
-    MessageBox(MessageKind messageKind, Text message, Text title, Long buttons);
+    /// Unknown buttons are a single OK.
+    MessageBox(MessageKind messageKind, Text message, Text title, MessageButtons buttons);
 
     const MessageKind kind;
     const Text text;
 
-    /// 1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7 No. A box that is closed by its close box gives
-    /// its most harmless one: No, else Cancel, else OK, else Abort.
-    Long Answer() const { return answer_; }
+    /// A box that is closed by its close box gives its most harmless answer: No, else Cancel, else OK, else
+    /// Abort.
+    MessageAnswer Answer() const { return answer_; }
     /// Shows it on a screen that has no message boxes of its own, and returns the answer.
-    Long Ask(Platform& platform);
+    MessageAnswer Ask(Platform& platform);
     FieldValue Look(std::string_view field) const override;
 
 private:
     std::vector<std::unique_ptr<Button>> buttons_;
-    Long answer_ = 0;
+    MessageAnswer answer_ = MessageAnswer::None;
 };
 
 } // namespace ostrel

@@ -52,7 +52,8 @@ void ScriptedUser::Attend(Form& form) {
     if (form.Open()) form.CloseBox();
 }
 
-Long ScriptedUser::Answer(MessageKind kind, const Text& text, const Text& title, Long buttons) {
+MessageAnswer ScriptedUser::Answer(MessageKind kind, const Text& text, const Text& title,
+                                   MessageButtons buttons) {
     messages_.push_back({kind, text, title});
     return MessageBox(kind, text, title, buttons).Ask(platform_);
 }

@@ -54,7 +54,8 @@ public:
     std::vector<ShownMessage> TakeMessages() { return std::exchange(messages_, {}); }
 
     void Attend(Form& form) override;
-    Long Answer(MessageKind kind, const Text& text, const Text& title, Long buttons) override;
+    MessageAnswer Answer(MessageKind kind, const Text& text, const Text& title,
+                         MessageButtons buttons) override;
 
 private:
     void Carry(Form& form, const UserStep& step);

@@ -7,7 +7,7 @@ namespace ostrel {
 namespace {
 
 /// Message boxes are one form, whose buttons differ.
-template <Long Buttons>
+template <MessageButtons Buttons>
 std::unique_ptr<Form> MakeMessageBox() {
     return std::make_unique<MessageBox>(MessageKind::Query, Text(), Text(), Buttons);
 }
@@ -15,9 +15,12 @@ std::unique_ptr<Form> MakeMessageBox() {
 } // namespace
 
 std::span<const FormMaker> UiForms() {
+    using enum MessageButtons;
     static constexpr FormMaker Forms[]{
-        MakeMessageBox<0>, MakeMessageBox<1>, MakeMessageBox<2>,   MakeMessageBox<3>,
-        MakeMessageBox<4>, MakeMessageBox<5>, MakeForm<AboutForm>,
+        MakeForm<AboutForm>,         MakeMessageBox<Ok>,
+        MakeMessageBox<OkCancel>,    MakeMessageBox<AbortRetryIgnore>,
+        MakeMessageBox<YesNoCancel>, MakeMessageBox<YesNo>,
+        MakeMessageBox<RetryCancel>,
     };
     return Forms;
 }

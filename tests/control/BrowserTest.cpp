@@ -141,7 +141,9 @@ TEST(Navigation, RefreshWaitsForDone) {
     }
     bench.web->Refresh();
     bench.web->RefreshIfExpired();
-    EXPECT_EQ(bench.Pane().Refreshes(0) * 100 + bench.Pane().Refreshes(1) * 10 + bench.Pane().Refreshes(3),
+    EXPECT_EQ(bench.Pane().Refreshes(RefreshLevel::Plain) * 100 +
+                  bench.Pane().Refreshes(RefreshLevel::IfExpired) * 10 +
+                  bench.Pane().Refreshes(RefreshLevel::Completely),
               112);
 }
 
@@ -190,7 +192,7 @@ TEST(PaneEvents, AreFilteredAndPassedOn) {
     ControlBench bench;
     bench.Settle();
     bench.Pane().Hold();
-    bench.Pane().Report("u", "n", true, 2);
+    bench.Pane().Report("u", "n", true, LoadState::Loaded);
     EXPECT_TRUE(bench.web->Busy());
     EXPECT_EQ(bench.web->ReadyState(), 2);
     BrowserSink& sink = *bench.Pane().Sink();
@@ -211,9 +213,9 @@ TEST(PaneEvents, AreFilteredAndPassedOn) {
              {[&] { sink.ProgressChange(1, 3); }, {}},
              {[&] { sink.ProgressChange(150, 100); }, {"ProgressChange 100"}},
              {[&] { sink.ProgressChange(2147483647, 1); }, {"ProgressChange 100"}},
-             {[&] { sink.CommandStateChange(1, true); }, {"ForwardState True"}},
-             {[&] { sink.CommandStateChange(1, true); }, {"ForwardState True"}},
-             {[&] { sink.CommandStateChange(-1, true); }, {}},
+             {[&] { sink.CommandStateChange(HistoryCommand::Forward, true); }, {"ForwardState True"}},
+             {[&] { sink.CommandStateChange(HistoryCommand::Forward, true); }, {"ForwardState True"}},
+             {[&] { sink.CommandStateChange(HistoryCommand{-1}, true); }, {}},
              {[&] { sink.NewWindow2(false); }, {}},
              {[&] { sink.NavigateComplete2("u", false); }, {}},
              {[&] { sink.DocumentComplete("u", false); }, {}},

@@ -20,7 +20,7 @@ TEST(StopPanel, MovesThePaneDown) {
         EXPECT_EQ(bench.web->BrowserTop(), 600 + 1200 + 120);
         EXPECT_EQ(view.brwBrowser.height, 7200 - 1920);
         EXPECT_FALSE(bench.web->StopPressed());
-        EXPECT_EQ(bench.platform.Display().Pointer(), 11);
+        EXPECT_EQ(bench.platform.Display().Pointer(), PointerShape::Hourglass);
         EXPECT_EQ(view.cmdStop.pointer, 1);
     }
     EXPECT_TRUE(bench.web->PressChild("cmdStop"));
@@ -29,7 +29,7 @@ TEST(StopPanel, MovesThePaneDown) {
     EXPECT_TRUE(bench.web->StopPressed());
     EXPECT_FALSE(bench.web->PressChild("cmdStop"));
     EXPECT_EQ(bench.web->BrowserTop(), 345);
-    EXPECT_EQ(bench.platform.Display().Pointer(), 0);
+    EXPECT_EQ(bench.platform.Display().Pointer(), PointerShape::Default);
 }
 
 TEST(StopPanel, GaugeShowsAFraction) {

@@ -34,7 +34,7 @@ TEST(ServiceMembers, FilesTellWhatFailed) {
     EXPECT_EQ(web.ReadFile("C:\\d\\a.htm"), "");
     EXPECT_EQ(web.LastFileError(), "File not found");
 
-    platform.answer = 7;
+    platform.answer = MessageAnswer::No;
     EXPECT_TRUE(web.WriteFileFull("Save", "C:\\d\\b.htm", "new", error, false, true, true));
     EXPECT_TRUE(web.WriteFileFull("Save", "C:\\d\\b.htm", "newer", error, false, true, true));
     EXPECT_EQ(web.ReadFile("C:\\d\\b.htm"), "new");
@@ -54,7 +54,7 @@ TEST(ServiceMembers, MessagesAndWaits) {
     OstrelWebHelp web(platform);
     web.ProgramName("Program");
     web.MessageError("wrong");
-    platform.answer = 4;
+    platform.answer = MessageAnswer::Retry;
     EXPECT_EQ(web.MessageQuery("again?", 5), 4);
     EXPECT_EQ(platform.questions, (std::vector<Text>{"Program: wrong", "Program: again?"}));
 

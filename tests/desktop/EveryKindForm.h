@@ -55,7 +55,7 @@ public:
     FrameBox frame{*this, "fraFrame", "Frame"};
     TextBox inner{*this, "txtInner", "Inner", [this] { log += "inner=" + *inner.text + ";"; }};
     GridBox grid{*this, "grdGrid"};
-    Button ok{*this, "cmdOK", "OK", Role::Accept, [this] {
+    Button ok{*this, "cmdOK", "OK", Purpose::Accept, [this] {
                   log += "ok;";
                   Finish();
               }};

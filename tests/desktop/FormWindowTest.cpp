@@ -83,7 +83,7 @@ void FormWindowTest::FaultTakesTheFocusBack() {
         NameForm() : Form("frmName", "Name") {}
         TextBox other{*this, "txtOther", "Other"};
         TextBox name{*this, "txtName", "Name"};
-        Button ok{*this, "cmdOK", "OK", Role::Accept};
+        Button ok{*this, "cmdOK", "OK", Purpose::Accept};
         bool Accept() override { return !name.text->empty() || Fault(name, "Must Enter a Name."); }
     };
     FormBench bench;
@@ -206,9 +206,9 @@ void FormWindowTest::ControlsAreArranged() {
         CheckBox italic{*this, "chkItalic", "Italic"};
         ListBox lines{*this, "lisLines"};
         Button up{*this, "cmdUp", "Up"};
-        Button clear{*this, "cmdClear", "Clear", Role::Footer};
-        Button ok{*this, "cmdEnd", "OK", Role::Accept};
-        Button cancel{*this, "cmdCancel", "Cancel", Role::Cancel};
+        Button clear{*this, "cmdClear", "Clear", Purpose::Footer};
+        Button ok{*this, "cmdEnd", "OK", Purpose::Accept};
+        Button cancel{*this, "cmdCancel", "Cancel", Purpose::Cancel};
     };
     FormBench bench;
     RowsForm form;
@@ -280,7 +280,7 @@ void FormWindowTest::DialogsStandBesideTheirButton() {
     class SmallForm final : public Form {
     public:
         SmallForm() : Form("frmSmall", "Small") {}
-        Button ok{*this, "cmdOK", "OK", Role::Accept};
+        Button ok{*this, "cmdOK", "OK", Purpose::Accept};
     };
     FormBench bench;
     EveryKindForm form;

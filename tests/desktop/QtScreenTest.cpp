@@ -70,7 +70,8 @@ void QtScreenTest::MessagesAnswer() {
             if (how == Enter) QTest::keyClick(&box, Qt::Key_Return);
             QVERIFY2(!box.isVisible(), pressed);
         });
-        const Long given = bench.platform.screen->Message(MessageKind::Info, "Text", "Title", buttons);
+        const auto given = static_cast<Long>(bench.platform.screen->Message(
+            MessageKind::Info, "Text", "Title", static_cast<MessageButtons>(buttons)));
         const QString row = QString("%1 by %2 \"%3\"").arg(names).arg(how).arg(pressed);
         QVERIFY2(given == answer, qPrintable(QString("%1: %2").arg(row).arg(given)));
         QCOMPARE(shown, QString(names));
@@ -93,7 +94,7 @@ void QtScreenTest::MessagesLookLikeTheirKind() {
             QCOMPARE(box.text(), QString::fromUtf8("caf\u00e9 <B>\nline"));
             QCOMPARE(box.textFormat(), Qt::PlainText);
         });
-        bench.platform.screen->Message(kind, "caf\xE9 <B>\r\nline", "Title", 0);
+        bench.platform.screen->Message(kind, "caf\xE9 <B>\r\nline", "Title", MessageButtons::Ok);
         QVERIFY(attended);
     }
 }
@@ -105,9 +106,9 @@ void QtScreenTest::MessagesBelongToTheDialogOnTop() {
         owner = box.parentWidget();
         FormBench::Attend<QMessageBox>(
             [&box](QMessageBox& second) { QVERIFY(second.parentWidget() == &box); });
-        bench.platform.screen->Message(MessageKind::Info, "Second", "", 0);
+        bench.platform.screen->Message(MessageKind::Info, "Second", "", MessageButtons::Ok);
     });
-    bench.platform.screen->Message(MessageKind::Info, "First", "", 0);
+    bench.platform.screen->Message(MessageKind::Info, "First", "", MessageButtons::Ok);
     QVERIFY(owner == &bench.owner);
 }
 
@@ -137,15 +138,15 @@ void QtScreenTest::PointersHaveTheirShapes() {
 
 void QtScreenTest::PointerOfTheWindow() {
     FormBench bench;
-    bench.platform.screen->MousePointer(11);
+    bench.platform.screen->MousePointer(PointerShape::Hourglass);
     QCOMPARE(bench.owner.cursor().shape(), Qt::WaitCursor);
-    bench.platform.screen->MousePointer(0);
+    bench.platform.screen->MousePointer(PointerShape::Default);
     QCOMPARE(bench.owner.cursor().shape(), Qt::ArrowCursor);
     FormBench::Attend<QMessageBox>([&bench](QMessageBox& box) {
-        bench.platform.screen->MousePointer(2);
+        bench.platform.screen->MousePointer(PointerShape{2});
         QCOMPARE(box.cursor().shape(), Qt::CrossCursor);
     });
-    bench.platform.screen->Message(MessageKind::Info, "Text", "", 0);
+    bench.platform.screen->Message(MessageKind::Info, "Text", "", MessageButtons::Ok);
     QCOMPARE(bench.owner.cursor().shape(), Qt::CrossCursor);
 }
 

@@ -16,7 +16,7 @@ struct NotingSink final : BrowserSink {
     void NavigateComplete2(const Text& url, bool top) override { Note("Navigated " + url, top); }
     void DocumentComplete(const Text& url, bool top) override { Note("Complete " + url, top); }
     void NewWindow2(bool) override { Note("Window", true); }
-    void CommandStateChange(Long, bool) override {}
+    void CommandStateChange(HistoryCommand, bool) override {}
     void ProgressChange(Long, Long) override { ++progress; }
     void StatusTextChange(const Text&) override {}
     void TitleChange(const Text& text) override { title = text; }
@@ -137,8 +137,8 @@ TEST_F(HeadlessPaneTest, AReadThatFailsEndsTheLoad) {
 TEST_F(HeadlessPaneTest, PrintsToAListAndGivesTheBody) {
     files.Add("C:\\a.htm", "<html><BODY bgcolor=red><b>Hi</b> there</BODY></html>");
     Load("C:\\a.htm");
-    pane.ExecWB(6, 2);
-    pane.ExecWB(7, 2);
+    pane.ExecWB(PaneCommand::Print, PaneCommandOption::DontPromptUser);
+    pane.ExecWB(PaneCommand::Copy, PaneCommandOption::Default);
     EXPECT_EQ(pane.TakePrinted(), std::vector<Text>{"C:\\a.htm"});
     EXPECT_EQ(pane.DocumentText("innerhtml"), "<b>Hi</b> there");
     EXPECT_EQ(pane.DocumentText("outerhtml"), "<BODY bgcolor=red><b>Hi</b> there</BODY>");
@@ -152,8 +152,8 @@ TEST_F(HeadlessPaneTest, HeldItOnlyNotes) {
     pane.Navigate("C:\\b.htm", "t");
     pane.GoBack();
     pane.Stop();
-    pane.Refresh2(3);
-    pane.ExecWB(6, 2);
+    pane.Refresh2(RefreshLevel::Completely);
+    pane.ExecWB(PaneCommand::Print, PaneCommandOption::DontPromptUser);
     clock.Advance(100);
     EXPECT_TRUE(sink.log.empty());
     Text asked;
@@ -161,10 +161,10 @@ TEST_F(HeadlessPaneTest, HeldItOnlyNotes) {
     EXPECT_EQ(asked, "Navigate1Navigate2GoBack0Stop0Refresh21ExecWB2");
     EXPECT_TRUE(pane.TakePrinted().empty());
     pane.Report("u", {}, true, {});
-    pane.Report({}, "n", {}, 1);
+    pane.Report({}, "n", {}, LoadState::Loading);
     EXPECT_EQ(pane.LocationURL() + pane.LocationName(), "un");
     EXPECT_TRUE(pane.Busy());
-    EXPECT_EQ(pane.ReadyState(), 1);
+    EXPECT_EQ(pane.ReadyState(), LoadState::Loading);
 }
 
 } // namespace

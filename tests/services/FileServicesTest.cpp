@@ -192,7 +192,7 @@ TEST(FileServices, SafeWrite) {
         TestPlatform platform;
         platform.Disk().Add(path, "old");
         platform.Disk().Add("C:\\d\\a.bak", "older");
-        platform.answer = answer;
+        platform.answer = static_cast<MessageAnswer>(answer);
         Text message = "before";
         EXPECT_EQ(WriteFileFull(platform.context, "Title", given, Pieces({"n", "ew"}), message, options),
                   error.empty());

@@ -61,7 +61,7 @@ struct TestPlatform : Platform, ScreenUser {
     Context context{events, *this, run};
     /// What was asked, "TITLE: TEXT", and the answer to give.
     std::vector<Text> questions;
-    Long answer = 6;
+    MessageAnswer answer = MessageAnswer::Yes;
 
     TestPlatform() {
         files = std::make_unique<MemoryFiles>();
@@ -76,7 +76,7 @@ struct TestPlatform : Platform, ScreenUser {
     MemorySettings& Store() { return static_cast<MemorySettings&>(*settings); }
 
     void Attend(Form&) override {}
-    Long Answer(MessageKind, const Text& text, const Text& title, Long) override {
+    MessageAnswer Answer(MessageKind, const Text& text, const Text& title, MessageButtons) override {
         questions.push_back(title + ": " + text);
         return answer;
     }

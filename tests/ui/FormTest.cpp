@@ -38,8 +38,8 @@ struct SampleForm final : Form {
                             heard += "tick;";
                             tmrChoose.Stop();
                         }};
-    Button cmdOK{*this, "cmdOK", "OK", Role::Accept};
-    Button cmdCancel{*this, "cmdCancel", "Cancel", Role::Cancel};
+    Button cmdOK{*this, "cmdOK", "OK", Purpose::Accept};
+    Button cmdCancel{*this, "cmdCancel", "Cancel", Purpose::Cancel};
     Text heard;
 
     SampleForm() : Form("frmSample", "Sample") {
@@ -311,8 +311,9 @@ TEST(MessageBoxes, EndByTheirMostHarmlessAnswer) {
         std::optional<ScriptedUser> user;
         if (seated) user.emplace(platform);
         for (std::size_t buttons = 0; buttons < harmless.size(); ++buttons)
-            EXPECT_EQ(platform.screen->Message(MessageKind::Query, "t", "c", static_cast<Long>(buttons)),
-                      harmless[buttons]);
+            EXPECT_EQ(
+                platform.screen->Message(MessageKind::Query, "t", "c", static_cast<MessageButtons>(buttons)),
+                static_cast<MessageAnswer>(harmless[buttons]));
     }
 }
 
@@ -327,7 +328,9 @@ TEST(MessageBoxes, AUserPressesAButtonByItsWord) {
     for (const auto& [buttons, word, answer] :
          std::vector<Row>{{0, "OK", 1}, {2, "Retry", 4}, {2, "Ignore", 5}, {3, "Yes", 6}, {4, "Cancel", 7}}) {
         user.Queue("MessageBox", {{Verb::Look, "text", {}}, {Verb::Click, word, {}}});
-        EXPECT_EQ(platform.screen->Message(MessageKind::Query, "Sure?", "Desk", buttons), answer);
+        EXPECT_EQ(platform.screen->Message(MessageKind::Query, "Sure?", "Desk",
+                                           static_cast<MessageButtons>(buttons)),
+                  static_cast<MessageAnswer>(answer));
     }
     EXPECT_TRUE(std::get<FieldValue>(user.TakeSeen()[0].value) == FieldValue(Text("Sure?")));
 }

@@ -48,7 +48,7 @@ void HeadlessPane::Listen(BrowserSink* sink) {
     offline_ = false;
     if (held_) return;
     busy_ = false;
-    readyState_ = 0;
+    readyState_ = LoadState::Uninitialised;
     page_ = {};
 }
 
@@ -67,7 +67,7 @@ void HeadlessPane::ShowBlankPage() {
     page_ = {.url = Text(BlankPage), .title = NameOf(Text(BlankPage)), .html = {}};
     history_ = {page_.url};
     place_ = 0;
-    readyState_ = 4;
+    readyState_ = LoadState::Complete;
 }
 
 void HeadlessPane::Navigate(const Text& url, const Text& target) {
@@ -108,17 +108,15 @@ void HeadlessPane::Stop() {
     if (!held_) Abandon();
 }
 
-void HeadlessPane::Refresh2(Long level) {
-    Note("Refresh2", {level});
-    if (level >= 0 && level < static_cast<Long>(refreshes_.size()))
-        ++refreshes_[static_cast<std::size_t>(level)];
+void HeadlessPane::Refresh2(RefreshLevel level) {
+    Note("Refresh2", {static_cast<Long>(level)});
+    ++refreshes_[level];
     if (!held_ && !page_.url.empty()) Start(Way::Refresh, page_.url);
 }
 
-void HeadlessPane::ExecWB(Long command, Long option) {
-    Note("ExecWB", {command, option});
-    constexpr Long Print = 6;
-    if (!held_ && command == Print) AppendBounded(printed_, page_.url);
+void HeadlessPane::ExecWB(PaneCommand command, PaneCommandOption option) {
+    Note("ExecWB", {static_cast<Long>(command), static_cast<Long>(option)});
+    if (!held_ && command == PaneCommand::Print) AppendBounded(printed_, page_.url);
 }
 
 Text HeadlessPane::DocumentText(const Text& word) const {
@@ -134,21 +132,20 @@ void HeadlessPane::Hold() {
     if (!load_) return;
     load_.reset();
     busy_ = false;
-    readyState_ = 4;
+    readyState_ = LoadState::Complete;
 }
 
 void HeadlessPane::Report(std::optional<Text> url, std::optional<Text> name, std::optional<bool> busy,
-                          std::optional<Long> readyState) {
+                          std::optional<LoadState> readyState) {
     if (url) page_.url = *url;
     if (name) page_.title = *name;
     if (busy) busy_ = *busy;
     if (readyState) readyState_ = *readyState;
 }
 
-Long HeadlessPane::Refreshes(Long level) const {
-    return level >= 0 && level < static_cast<Long>(refreshes_.size())
-               ? refreshes_[static_cast<std::size_t>(level)]
-               : 0;
+Long HeadlessPane::Refreshes(RefreshLevel level) const {
+    const auto hit = refreshes_.find(level);
+    return hit == refreshes_.end() ? 0 : hit->second;
 }
 
 void HeadlessPane::Start(Way way, const Text& url, const Text& target, std::size_t place) {
@@ -159,7 +156,7 @@ void HeadlessPane::Start(Way way, const Text& url, const Text& target, std::size
     load_->target = target;
     load_->place = place;
     busy_ = true;
-    readyState_ = 1;
+    readyState_ = LoadState::Loading;
     Later(load_, &HeadlessPane::Begin);
 }
 
@@ -168,7 +165,7 @@ void HeadlessPane::Abandon() {
     const bool begun = load_->begun;
     load_.reset();
     busy_ = false;
-    readyState_ = 4;
+    readyState_ = LoadState::Complete;
     if (begun) TellDownloadComplete();
 }
 
@@ -236,7 +233,7 @@ void HeadlessPane::Commit(const LoadPointer& load) {
     page_.html = std::move(load->html);
     page_.title = headless::TitleOf(page_.html);
     if (page_.title.empty()) page_.title = NameOf(page_.url);
-    readyState_ = 3;
+    readyState_ = LoadState::Interactive;
     if (load->way == Way::Plain) {
         if (!history_.empty()) history_.resize(place_ + 1);
         history_.push_back(page_.url);
@@ -259,11 +256,11 @@ bool HeadlessPane::TellStates(const LoadPointer& load) {
     const bool forward = place_ + 1 < history_.size();
     const bool back = place_ > 0;
     if (std::exchange(canForward_, forward) != forward) {
-        sink_->CommandStateChange(1, forward);
+        sink_->CommandStateChange(HistoryCommand::Forward, forward);
         if (!Runs(load)) return false;
     }
     if (std::exchange(canBack_, back) != back) {
-        sink_->CommandStateChange(2, back);
+        sink_->CommandStateChange(HistoryCommand::Back, back);
         if (!Runs(load)) return false;
     }
     return true;
@@ -319,7 +316,7 @@ void HeadlessPane::CommitFrame(const LoadPointer& load) {
 
 void HeadlessPane::EndLoad(const LoadPointer& load) {
     busy_ = false;
-    readyState_ = 4;
+    readyState_ = LoadState::Complete;
     sink_->StatusTextChange("done");
     if (!Runs(load)) return;
     // From here on a listener may start the next load; this one is told to its end.
@@ -331,7 +328,7 @@ void HeadlessPane::EndLoad(const LoadPointer& load) {
 void HeadlessPane::Fail(const LoadPointer& load) {
     load_.reset();
     busy_ = false;
-    readyState_ = 4;
+    readyState_ = LoadState::Complete;
     sink_->StatusTextChange("Can't open page " + load->url);
     if (sink_) sink_->DownloadComplete();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -41,13 +41,13 @@ public:
     void GoHome() override;
     void GoSearch() override;
     void Stop() override;
-    void Refresh2(Long level) override;
-    /// Command 6 prints.
-    void ExecWB(Long command, Long option) override;
+    void Refresh2(RefreshLevel level) override;
+    /// Prints to the list of `TakePrinted`; other commands do nothing.
+    void ExecWB(PaneCommand command, PaneCommandOption option) override;
     Text LocationName() const override { return page_.title; }
     Text LocationURL() const override { return page_.url; }
     bool Busy() const override { return busy_; }
-    Long ReadyState() const override { return readyState_; }
+    LoadState ReadyState() const override { return readyState_; }
     bool Offline() const override { return offline_; }
     void Offline(bool offline) override { offline_ = offline; }
     Text DocumentText(const Text& word) const override;
@@ -59,7 +59,7 @@ public:
     void Hold();
     /// What a held pane reports; what is left out stays.
     void Report(std::optional<Text> url, std::optional<Text> name, std::optional<bool> busy,
-                std::optional<Long> readyState);
+                std::optional<LoadState> readyState);
     /// All that it was asked since the last taking.
     std::vector<PaneCall> TakeLog() { return std::exchange(log_, {}); }
     /// The addresses that were printed since the last taking.
@@ -67,7 +67,7 @@ public:
     /// The addresses that were to open in a window of their own since the last taking.
     std::vector<Text> TakeWindows() { return std::exchange(windows_, {}); }
     /// How often a refresh of that level was asked.
-    Long Refreshes(Long level) const;
+    Long Refreshes(RefreshLevel level) const;
     /// How often it was given the focus.
     Long Focused() const { return focused_; }
     /// Who hears the events; null for nobody. To raise one by hand, call it.
@@ -122,7 +122,7 @@ private:
     bool held_ = false;
     bool offline_ = false;
     bool busy_ = false;
-    Long readyState_ = 0;
+    LoadState readyState_ = LoadState::Uninitialised;
     Page page_;
     std::vector<Text> history_;
     std::size_t place_ = 0;
@@ -136,7 +136,7 @@ private:
     std::vector<PaneCall> log_;
     std::vector<Text> printed_;
     std::vector<Text> windows_;
-    std::array<Long, 4> refreshes_{};
+    std::map<RefreshLevel, Long> refreshes_;
     Long focused_ = 0;
 };
 

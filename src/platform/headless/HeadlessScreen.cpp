@@ -9,19 +9,20 @@ void HeadlessScreen::ShowModal(Form& form) {
     if (user_) user_->Attend(form);
 }
 
-Long HeadlessScreen::Message(MessageKind kind, const Text& text, const Text& title, Long buttons) {
+MessageAnswer HeadlessScreen::Message(MessageKind kind, const Text& text, const Text& title,
+                                      MessageButtons buttons) {
     if (user_) return user_->Answer(kind, text, title, buttons);
     switch (buttons) {
-    case 1:
-    case 5:
-        return 2;
-    case 2:
-        return 3;
-    case 3:
-    case 4:
-        return 7;
+    case MessageButtons::OkCancel:
+    case MessageButtons::RetryCancel:
+        return MessageAnswer::Cancel;
+    case MessageButtons::AbortRetryIgnore:
+        return MessageAnswer::Abort;
+    case MessageButtons::YesNoCancel:
+    case MessageButtons::YesNo:
+        return MessageAnswer::No;
     default:
-        return 1;
+        return MessageAnswer::Ok;
     }
 }
 

@@ -10,7 +10,8 @@ public:
     virtual ~ScreenUser() = default;
     /// Works the form until it is closed.
     virtual void Attend(Form& form) = 0;
-    virtual Long Answer(MessageKind kind, const Text& text, const Text& title, Long buttons) = 0;
+    virtual MessageAnswer Answer(MessageKind kind, const Text& text, const Text& title,
+                                 MessageButtons buttons) = 0;
 };
 
 /// A screen of numbers. With nobody before it no form stands, and a message box ends by its most harmless
@@ -21,15 +22,16 @@ public:
     void SeatUser(ScreenUser* user) { user_ = user; }
 
     void ShowModal(Form& form) override;
-    Long Message(MessageKind kind, const Text& text, const Text& title, Long buttons) override;
+    MessageAnswer Message(MessageKind kind, const Text& text, const Text& title,
+                          MessageButtons buttons) override;
     Bounds Area() const override { return area_; }
     void Area(const Bounds& area) { area_ = area; }
     Extent Pixel() const override { return {15, 15}; }
     Extent Measure(const Text& text) const override;
     void Beep() override { ++beeps_; }
-    void MousePointer(Long shape) override { pointer_ = shape; }
+    void MousePointer(PointerShape shape) override { pointer_ = shape; }
 
-    Long Pointer() const { return pointer_; }
+    PointerShape Pointer() const { return pointer_; }
     /// How often it beeped since the last asking.
     Long TakeBeeps();
 
@@ -37,7 +39,7 @@ private:
     ScreenUser* user_ = nullptr;
     Bounds area_{0, 0, 15360, 11520};
     Long beeps_ = 0;
-    Long pointer_ = 0;
+    PointerShape pointer_ = PointerShape::Default;
 };
 
 } // namespace ostrel

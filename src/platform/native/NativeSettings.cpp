@@ -11,13 +11,10 @@ namespace ostrel {
 
 namespace {
 
-constexpr Long CurrentUser = -2147483647;
-constexpr Long Machine = -2147483646;
-
 /// The browser would have made these for every user.
 constexpr TextView BrowserKey = "SOFTWARE\\Microsoft\\Internet Explorer";
 
-Text AreaName(Long area) { return area == CurrentUser ? "user" : area == Machine ? "machine" : ""; }
+Text AreaName(Long area) { return area == CurrentUserArea ? "user" : area == MachineArea ? "machine" : ""; }
 
 Text WithoutLastBackslash(Text key) {
     if (key.ends_with('\\')) key.pop_back();
