@@ -11,7 +11,7 @@ namespace ostrel::bridge {
 /// another kind, or too many.
 class Arguments {
 public:
-    /// `key` is where the array stands and `owner` is who takes its elements, for the sentence that refuses.
+    /// `key` names the array and `owner` the member or event that takes it, for error messages.
     Arguments(const Json& array, std::string_view key, std::string_view owner)
         : array_(array), owner_(owner) {
         RequireArray(array, Place{key});
@@ -29,7 +29,7 @@ public:
     T TakeOr(std::string_view name, T fallback) {
         return More() ? Take<T>(name) : fallback;
     }
-    /// The next element as it stands.
+    /// Returns the next element as JSON.
     const Json& TakeAny(std::string_view name) {
         if (!More()) throw Refusal(std::string(owner_) + " needs " + std::string(name) + ".");
         return array_[next_++];

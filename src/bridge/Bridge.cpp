@@ -15,7 +15,7 @@ namespace {
 constexpr int MaxNestedRequests = 64;
 constexpr long MaxInnerRequests = 100'000;
 
-/// Runs the work; the result is the sentence that tells why it failed, empty for success.
+/// Runs the work. Returns an empty text, or the error message if it failed.
 template <class Work>
 std::string Attempt(const Work& work) {
     try {
@@ -30,7 +30,7 @@ std::string Attempt(const Work& work) {
     }
 }
 
-/// The request's id as JSON; empty for none.
+/// Returns the request's id as JSON, or an empty text if it has no id.
 std::string IdOf(const Json& request) {
     const auto id = request.find("id");
     if (id == request.end()) return {};
@@ -110,7 +110,7 @@ std::string Bridge::Answer(std::string_view line) {
         const bool quiet = IsQuiet(request);
         events_.NoteEvents(!quiet);
         inner_ = 0;
-        // Real time has gone on since the last line. Virtual time stands still.
+        // Real time has passed since the last line. Virtual time has not.
         if (!platform_.VirtualTime() && platform_.clock->Pending()) platform_.clock->Yield();
         CallAnswer answer;
         CarryOut(request, answer);

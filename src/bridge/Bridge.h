@@ -18,7 +18,7 @@ struct Child;
 namespace ostrel::bridge {
 
 /// A host of the component that is driven by lines of JSON: it holds one control and reaches everything of it
-/// by name. docs/bridge.md tells the requests and the answers.
+/// by name. docs/bridge.md describes the requests and the answers.
 class Bridge {
 public:
     /// Makes a control with `InitProperties` run, on a platform of its own.
@@ -28,7 +28,7 @@ public:
     Bridge(const Bridge&) = delete;
     Bridge& operator=(const Bridge&) = delete;
 
-    /// The answer to one line, without a line end. It never throws, whatever stands on the line.
+    /// Returns the answer to one line, without a line end. Never throws, whatever the line holds.
     std::string Answer(std::string_view line);
 
 private:
@@ -69,7 +69,7 @@ private:
     void WriteBag(const Json& request, CallAnswer& answer);
     void Describe(const Json& request, CallAnswer& answer);
 
-    /// A visual child of the control; a Refusal where there is none of that name.
+    /// Returns a visual child of the control. Throws `Refusal` if there is no child of that name.
     const Child& ChildOf(const Text& name) const;
     /// The clock that can be moved; a Refusal where time is real.
     VirtualClock& Time() const;

@@ -18,7 +18,7 @@ std::vector<std::string_view> ArgumentNamesOf(const EventBase& event) {
 }
 
 void EventDesk::Note(const EventBase& event, std::span<const ArgumentRef> arguments) {
-    // Memory that runs out half way leaves no half event behind.
+    // If memory runs out, no partial event is left behind.
     struct Whole {
         std::string& text;
         std::size_t size = text.size();
@@ -41,7 +41,7 @@ void EventDesk::Hear(EventBase& event, std::span<const ArgumentRef> arguments) {
     if (noting_) Note(event, arguments);
     const auto found = rules_.find(event.Name());
     if (found == rules_.end()) return;
-    // The requests may add and drop rules; what stood at the start is carried out.
+    // The requests may add and drop rules, so iterate over a copy.
     const Rules rules = found->second;
     for (const auto& rule : rules) {
         if (rule->nth > 0 && ++rule->heard != rule->nth) continue;

@@ -28,9 +28,9 @@ public:
     void AddRule(const EventBase& event, const Json& request);
     void DropRules(std::string_view event);
 
-    /// Whether events are noted. Some carry whole tables, which nobody should write down in vain.
+    /// Whether events are recorded. Some carry whole tables, which are costly to write.
     void NoteEvents(bool note) { noting_ = note; }
-    /// The inside of a JSON array of the events since the last time; empty for none.
+    /// Returns the events since the last call as the content of a JSON array; empty if there are none.
     std::string TakeEvents() { return std::exchange(events_, {}); }
 
 private:

@@ -45,7 +45,7 @@ Shape ShapeOf(std::string_view line) {
     return shape;
 }
 
-/// What stands for one character of a string, and how many bytes of it; 0 for a byte that stands for itself.
+/// The escape sequence of one byte in a JSON string and its length; 0 for a byte that needs none.
 struct Escape {
     char text[7];
     unsigned char length;
@@ -77,7 +77,7 @@ Escape EscapeOf(unsigned byte) {
 
 using EscapeTable = std::array<Escape, 256>;
 
-/// How a byte of a UTF-8 text stands in a JSON string.
+/// Returns the escape sequence of a byte of UTF-8 text.
 const EscapeTable& Utf8Escapes() {
     static const EscapeTable table = [] {
         EscapeTable made{};
@@ -87,7 +87,7 @@ const EscapeTable& Utf8Escapes() {
     return table;
 }
 
-/// How a byte of the code page stands in a JSON string.
+/// Returns the UTF-8 or escape sequence of a byte of the code page.
 const EscapeTable& CodePageEscapes() {
     static const EscapeTable table = [] {
         EscapeTable made = Utf8Escapes();

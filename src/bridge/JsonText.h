@@ -12,10 +12,10 @@ namespace ostrel::bridge {
 
 using Json = nlohmann::json;
 
-/// How deep arrays and objects of a line may stand in one another.
+/// The maximum nesting depth of arrays and objects in a line.
 inline constexpr int MaxNesting = 64;
 
-/// The object that stands on a line; a Refusal for anything else.
+/// Parses a line as an object. Throws `Refusal` for anything else.
 Json ParseRequest(std::string_view line);
 
 /// Writes JSON at the end of a text, commas included. Answers are written straight from the component's own
@@ -38,12 +38,12 @@ public:
     void Flag(bool value) { Raw(value ? "true" : "false"); }
     void Null() { Raw("null"); }
     void Whole(long long value);
-    /// The shortest digits that read back as the same number; null for what JSON can't tell.
+    /// The shortest digits that read back as the same number; null for what JSON cannot represent.
     void Number(double value);
     void Number(float value);
     /// A value that is JSON already.
     void Raw(std::string_view json);
-    /// An object or an array whose inside is JSON already.
+    /// Writes an object or array whose content is JSON already.
     void Object(std::string_view inside);
     void Array(std::string_view inside);
 

@@ -10,15 +10,15 @@
 
 namespace ostrel::bridge {
 
-/// One argument of a member, as its row and the member's signature tell.
+/// One argument of a member, taken from its row and the member's signature.
 struct Argument {
     std::string_view name;
     std::string_view kind;
-    /// The member writes it, and the answer gives it back.
+    /// The member writes it, and the answer returns it in `out`.
     bool out = false;
-    /// The place of the argument that counts the elements, or the rows; -1 for none.
+    /// The place of the argument that counts the elements, or the rows; -1 if there is none.
     int count = -1;
-    /// The place of the argument that counts the columns; -1 for none.
+    /// The place of the argument that counts the columns; -1 if there is none.
     int columnCount = -1;
     /// The count is the most that the member may fill in: the array grows to it.
     bool grows = false;
@@ -48,7 +48,7 @@ struct Member {
     /// Calls it. The arguments are an array; a Refusal for one that does not fit, with nothing done.
     void (*call)(const Member&, OstrelWebHelp&, const Json& arguments, CallAnswer&);
 
-    /// It gives a result and takes no arguments, so that it reads like a property.
+    /// Whether it has a result and no arguments, so that `get` can read it.
     bool ReadsLikeProperty() const { return arguments.empty() && result != "none"; }
 };
 

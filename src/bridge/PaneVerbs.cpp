@@ -18,7 +18,7 @@ std::optional<T> ReadKey(const Json& object, const char* key) {
     return value;
 }
 
-/// One event that an engine raises: takes its arguments and tells the pane's listener.
+/// One event of the engine: reads its arguments and calls the pane's listener.
 struct PaneEvent {
     std::string_view name;
     void (*raise)(BrowserSink&, Arguments&, CallAnswer&);

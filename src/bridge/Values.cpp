@@ -42,7 +42,7 @@ int DaysOfMonth(int year, int month) {
     return month == 2 && IsLeapYear(year) ? 29 : days[static_cast<std::size_t>(month - 1)];
 }
 
-/// The digits of "YYYY-MM-DDTHH:MM:SS", or false where another form stands.
+/// Reads the digits of "YYYY-MM-DDTHH:MM:SS". Returns false for any other form.
 bool SplitDate(std::string_view text, DateParts& parts) {
     constexpr std::string_view form = "0000-00-00T00:00:00";
     if (text.size() != form.size()) return false;

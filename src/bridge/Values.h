@@ -11,7 +11,7 @@
 
 namespace ostrel::bridge {
 
-/// Where a value stands, for the sentence that refuses it: an argument, or an element of one.
+/// The location of a value, for error messages: an argument, or an element of one.
 struct Place {
     std::string_view name;
     Long row = 0;

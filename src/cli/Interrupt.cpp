@@ -18,7 +18,7 @@ InterruptGuard::InterruptGuard() {
 #if defined(_WIN32)
     std::signal(SIGINT, OnInterrupt);
 #else
-    // Without SA_RESTART a read that waits for standard input comes back at once.
+    // Without SA_RESTART a blocking read of standard input returns with EINTR.
     struct sigaction action {};
     action.sa_handler = OnInterrupt;
     sigaction(SIGINT, &action, nullptr);

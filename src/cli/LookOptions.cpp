@@ -4,16 +4,16 @@
 #include <string_view>
 
 #include "cli/Usage.h"
+#include "tablepages/TableTypes.h"
 #include "tables/CellText.h"
 #include "tables/ReportStyle.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::cli {
 
 namespace {
 
-/// A word that goes into attributes and style sheets, where quotes and brackets would do harm.
+/// Checks a word for use in attributes and style sheets, which must hold no quotes and brackets.
 Text SafeWord(const std::string& option, const std::string& word) {
     if (word.find_first_of("\"<>{};&\r\n") != std::string::npos)
         throw UsageError(option + " " + word + ": quotes, brackets and semicolons can't be part of it.");
@@ -62,7 +62,7 @@ void AddHeaderLinks(const ReportOptions& options, OstrelWebHelp& web) {
         const Text link =
             equals == std::string::npos ? Text() : tables::HtmlArgument(word.substr(equals + 1));
         Text error;
-        // A name with a target goes out as it stands, one without through the encoding of special characters.
+        // A name with a target is written unchanged; one without is encoded.
         const std::string name = word.substr(0, equals);
         if (!web.PageTableHeaderLinksAdd(link.empty() ? tables::PlainArgument(name)
                                                       : tables::HtmlArgument(name),

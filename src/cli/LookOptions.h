@@ -6,7 +6,7 @@
 
 namespace ostrel::cli {
 
-/// What the options say of the look of the pages. Throws `UsageError`.
+/// Applies the options for the look of the pages. Throws `UsageError`.
 tables::Look LookOf(const ReportOptions& options);
 
 /// Adds the links above the table. Throws `UsageError`.

@@ -5,7 +5,7 @@
 
 namespace ostrel::cli {
 
-/// One line on the terminal that tells what is being done. Where standard error is no terminal, nothing.
+/// One progress line on the terminal. Prints nothing if standard error is not a terminal.
 class ProgressLine {
 public:
     explicit ProgressLine(bool wanted);

@@ -24,7 +24,7 @@ const PropertyRow* FindIgnoringCase(std::string_view name) {
     throw UsageError("--set " + std::string(assignment) + ": " + why);
 }
 
-/// Takes an index in parentheses off the name; 0 where there is none.
+/// Removes an index in parentheses from the name and returns it; 0 if there is no index.
 Long TakeIndex(std::string_view assignment, std::string_view& name) {
     const std::size_t open = name.find('(');
     if (open == std::string_view::npos) return 0;

@@ -64,7 +64,7 @@ std::pair<Long, std::string> ColumnFinder::Split(std::string_view option, std::s
 
 namespace {
 
-/// Text that goes between double quotes of an attribute.
+/// Returns the text encoded for use between the double quotes of an attribute.
 Text AttributeText(const std::string& word) { return tables::HtmlArgument(word); }
 
 void ApplySorts(const ReportOptions& options, const ColumnFinder& find, const tables::InputTable& table,

@@ -10,12 +10,12 @@
 
 namespace ostrel::cli {
 
-/// Finds the columns that a user names. A name from the header goes before a number.
+/// Finds columns by name or number. A name from the header takes precedence over a number.
 class ColumnFinder {
 public:
     explicit ColumnFinder(const tables::InputTable& table) : table_(table) {}
 
-    /// The number of a column, from 1. Throws `InputError` where there is none of that name, where several
+    /// The number of a column, from 1. Throws `InputError` if there is no column of that name, where several
     /// have it, or where options do not reach so far.
     Long Find(std::string_view option, std::string_view word) const;
     /// Takes `COLUMN=VALUE` apart; a name may itself hold "=". Throws `UsageError` where there is no "=".
@@ -28,7 +28,7 @@ private:
     const tables::InputTable& table_;
 };
 
-/// Sets what the options say of single columns: types, sorts, links, totals and so on. Types that are given
+/// Applies the options for single columns: types, sorts, links, totals and so on. Types that are given
 /// replace those that were found. Throws `InputError` and `UsageError`.
 void ApplyColumnOptions(const ReportOptions& options, tables::InputTable& table, OstrelWebHelp& web);
 

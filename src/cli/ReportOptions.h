@@ -10,7 +10,7 @@ class App;
 
 namespace ostrel::cli {
 
-/// What the command line of `ostrel report` says, word by word. Columns are still names.
+/// The options of `ostrel report` as given. Columns are not looked up yet.
 struct ReportOptions {
     std::string input;
     std::string directory;

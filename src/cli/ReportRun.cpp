@@ -213,7 +213,7 @@ int ReportRun::MakePages() {
     const bool made = tables::MakeReport(table_, table_.types, Text(ReportFiles::Drive) + page_, TitleText(),
                                          *web_, message);
     progress_.Clear();
-    // No event tells of the CSV file, and the message does not name it.
+    // There is no event for the CSV file, and the message does not name it.
     const bool csvFailed = !made && failures_.Empty() && !files_->LastFailed().empty();
     if (csvFailed && files_->End().empty())
         failures_.Add(files_->Shown(files_->LastFailed()), ToUtf8(files_->LastReason()));

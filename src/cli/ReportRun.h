@@ -13,7 +13,7 @@
 
 namespace ostrel::cli {
 
-/// One run of `ostrel report`: reads the input, makes the pages, tells what came of it.
+/// One run of `ostrel report`: reads the input, makes the pages, prints the result.
 class ReportRun {
 public:
     explicit ReportRun(const ReportOptions& options);

@@ -1,7 +1,7 @@
 #include "control/ControlFrame.h"
 #include "control/Guard.h"
 #include "control/PageScopeOf.h"
-#include "html/PageParts.h"
+#include "html/PageDocument.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
 
@@ -70,8 +70,7 @@ Flag OstrelWebHelp::HelpPageLoadInternal(Text& ErrorMessage) {
         state_.help.HelpRobots = robots;
         services::WorkFileNextIncrement(state_.service);
         Text fileError;
-        if (!services::WriteFileFull(context_, state_.service.ProgramName, path, page, fileError,
-                                     {.createBackup = false, .askOverwrite = false, .overwrite = true})) {
+        if (!services::WriteFileFull(context_, path, page, fileError, {})) {
             ErrorMessage = "Help Page can't be loaded - " + fileError;
             return false;
         }

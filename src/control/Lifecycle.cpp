@@ -3,7 +3,7 @@
 #include "control/PaneListener.h"
 #include "control/PropertyTable.h"
 #include "control/ToolbarLayout.h"
-#include "html/PageParts.h"
+#include "html/PageDraft.h"
 #include "services/FileServices.h"
 
 namespace ostrel {

@@ -169,9 +169,9 @@ Flag OstrelWebHelp::WriteFileFromCSVDatabase(const Text& FilePath, const Array<T
             return value ? TextView(*value) : TextView();
         };
         LargeBuffer room;
-        return services::WriteCsvFile(context_, state_.service.ProgramName, FilePath, FieldNames, cell,
-                                      NumberRecords, NumberFields, ErrorMessage, Delimiter, CreateBackup,
-                                      room);
+        return services::WriteCsvFile(context_, FilePath,
+                                      {FieldNames, NumberRecords, NumberFields, cell, Delimiter},
+                                      CreateBackup, room, ErrorMessage);
     });
 }
 
@@ -180,8 +180,9 @@ Flag OstrelWebHelp::WriteFileFull(const Text& Title, const Text& FilePath, const
     return Guarded([&] {
         Rope text;
         text.Append(nullptr, Output);
-        return services::WriteFileFull(context_, Title, FilePath, text, ErrorMessage,
-                                       {CreateBackup, AskOverwrite, Overwrite});
+        return services::WriteFileFull(
+            context_, FilePath, text, ErrorMessage,
+            {CreateBackup, Overwrite, AskOverwrite ? std::optional(Title) : std::nullopt});
     });
 }
 

@@ -1,6 +1,8 @@
 #include "control/Guard.h"
 #include "control/PageScopeOf.h"
-#include "html/PageParts.h"
+#include "html/PageDocument.h"
+#include "html/PageDraft.h"
+#include "html/PageSave.h"
 #include "html/SimplePages.h"
 #include "tablepages/TableReset.h"
 
@@ -20,7 +22,10 @@ void OstrelWebHelp::HelpPageInitialise() {
 
 Flag OstrelWebHelp::HelpPageSaveInternal(const Text& FilePath, Text& ErrorMessage) {
     return Guarded([&]() -> Flag {
-        return html::HelpPageSaveInternal(PageScopeOf(context_, state_), FilePath, ErrorMessage);
+        ErrorMessage.clear();
+        const html::PageSaved saved = html::SavePage(PageScopeOf(context_, state_), FilePath);
+        ErrorMessage = saved.error;
+        return saved.built;
     });
 }
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <variant>
 
+#include "control/Enumerations.h"
 #include "control/State.h"
 #include "platform/Context.h"
 #include "tablepages/CellTable.h"
-#include "text/Enumerations.h"
 #include "text/PropertyFlags.h"
 
 namespace ostrel {

@@ -6,8 +6,8 @@
 
 namespace ostrel::desk {
 
-/// Lets the signals that ask a program to end close a window, so that its work ends first and no work files
-/// stay behind. One at a time.
+/// Turns SIGINT, SIGTERM and SIGHUP into the closing of a window, so that its work ends first and no work
+/// files stay behind. One at a time.
 class ClosingSignals {
 public:
     explicit ClosingSignals(QWidget& window);

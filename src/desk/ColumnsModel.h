@@ -7,7 +7,7 @@
 
 namespace ostrel::desk {
 
-/// The columns of a table with what becomes of each. The first row stands for all of them.
+/// The columns of a table with the options of each. The first row edits all columns at once.
 class ColumnsModel final : public QAbstractTableModel {
     Q_OBJECT
 

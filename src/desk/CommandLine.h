@@ -4,10 +4,10 @@
 
 namespace ostrel::desk {
 
-/// What the command line of the application says.
+/// The options given on the command line of the application.
 struct CommandLine {
-    QString file;       ///< to open; empty for none
-    bool make = false;  ///< makes the report at once
+    QString file;       ///< to open; may be empty
+    bool make = false;  ///< make the report as soon as the file is read
     QString output;     ///< the directory of the report; empty for the usual one
     QString screenshot; ///< the picture to leave behind; empty for a window that stays
     bool timings = false;

@@ -7,7 +7,8 @@
 
 namespace ostrel::desk {
 
-/// The application's own pages, made with the component. They stand in a directory that goes with this.
+/// The application's own pages, made with the component. They are written to a directory that is deleted with
+/// this object.
 class DeskPages {
 public:
     /// What to do first. The component's path of the page; empty where no work file can be written.

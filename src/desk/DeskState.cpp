@@ -32,10 +32,10 @@ QString PathOf(const Text& address) {
     return QUrl::fromEncoded(QByteArray::fromStdString(address)).toLocalFile();
 }
 
-/// Each file has a section of its own, so that all that is kept for it goes at once.
+/// Each file has a section of its own, so that all its settings can be removed at once.
 Text PlanSection(const QString& path) { return "Plan " + AddressText(path); }
 
-/// Of the table of a database; a CSV file has none.
+/// Key of a table of a database; empty for a CSV file.
 Text PlanKey(const QString& table) { return "Table " + QUrl::toPercentEncoding(table).toStdString(); }
 
 /// Whether enough of the window's upper edge can be seen to take hold of it.

@@ -22,7 +22,7 @@ public:
 
     bool Option(const Text& name, bool fallback);
     void SetOption(const Text& name, bool value);
-    /// A directory; empty where none is remembered.
+    /// A directory; empty if none is remembered.
     QString Directory(const Text& name);
     void SetDirectory(const Text& name, const QString& directory);
 
@@ -30,7 +30,7 @@ public:
     QStringList Recent();
     void AddRecent(const QString& path);
 
-    /// The plan kept for a recent file and one of its tables; empty for none.
+    /// Returns the saved plan for a recent file and one of its tables, or an empty one.
     Text Plan(const QString& path, const QString& table);
     void SetPlan(const QString& path, const QString& table, const Text& plan, const QString& directory);
     /// The directories of the reports last planned of the recent files, but for that one.

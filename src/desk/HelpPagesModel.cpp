@@ -15,10 +15,10 @@ namespace ostrel::desk {
 
 namespace {
 
-/// The head of a page stands in its beginning.
+/// The head of a page is at its beginning.
 constexpr qint64 BytesOfHead = 16 << 10;
 
-/// The text between the tags of the title; empty for none.
+/// Returns the text between the tags of the title, or an empty text.
 QByteArray TitleBytes(const QByteArray& head) {
     const QByteArray lower = head.toLower();
     const qsizetype tag = lower.indexOf("<title");
@@ -41,8 +41,8 @@ qsizetype IndexRow(const QStringList& names) {
     return -1;
 }
 
-/// The page that this one shows in another order, as its name tells where it is one of a report: of `a_D.htm`
-/// and `a_12_U.htm` it is `a.htm`. Empty for none.
+/// The page that this one shows in another order, by the naming of report pages: of `a_D.htm`
+/// and `a_12_U.htm` it is `a.htm`. Empty if there is no such page.
 QString MainPageOf(const QString& name, const QSet<QString>& all) {
     const bool down = name.endsWith("_D.htm");
     if (!down && !name.endsWith("_U.htm")) return {};
@@ -106,7 +106,7 @@ QVariant HelpPagesModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole) return {};
     const int row = index.row();
     const QString& title = Title(row);
-    // The pages of a report share their title; then the name tells them apart.
+    // The pages of a report may share a title; add the file name then.
     const bool shared =
         (row > 0 && Title(row - 1) == title) || (row + 1 < names_.size() && Title(row + 1) == title);
     return shared ? title + " — " + names_[row] : title;

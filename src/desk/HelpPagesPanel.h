@@ -19,7 +19,7 @@ public:
     bool ShowDirectory(const QString& directory);
     const QString& Directory() const { return pages_.Directory(); }
     QString FirstPage() const { return pages_.FirstPage(); }
-    /// The page of that name is on view; a name that is not in the list marks none.
+    /// Selects the page of that name, or no page if the name is not in the list.
     void Mark(const QString& name);
 
 signals:

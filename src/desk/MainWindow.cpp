@@ -90,7 +90,7 @@ void MainWindow::ShowHelpPage(const QString& name) {
     OstrelWebHelp& web = widget_->Web();
     Text error;
     if (!web.HelpPageLoad(desktop::FromQt(name), error)) return notice_->TellTrouble(desktop::ToQt(error));
-    // The help page on view may have been left for an address that was typed.
+    // The user may have left the help page by typing an address.
     const Text location = web.BuildPath(web.DirectoryHelp(), desktop::FromQt(name));
     if (web.HelpPageNext().empty() && web.LocationURL() != location) web.LoadURL(location, error);
 }
@@ -142,7 +142,7 @@ bool MainWindow::MayWrite(ReportJob& job, const QString& directory) {
 }
 
 void MainWindow::TellDirectoryTrouble(const QString& sentence) {
-    // It stands at its field, which may be hidden.
+    // The message is shown at its field, which may be hidden.
     ReturnTo(*options_);
     options_->TellDirectoryTrouble(sentence);
 }

@@ -28,9 +28,9 @@ public:
     ~MainWindow() override;
 
     /// A CSV file or a SQLite database, a directory of help pages, or one of its pages. What is wrong with it
-    /// is told in the window. Nothing happens while work is being done.
+    /// is shown in the window. Does nothing while other work runs.
     void Open(const QString& path);
-    /// Makes the report of the open file; nothing where there is none, or help pages are on view in its
+    /// Makes the report of the open file. Does nothing if no file is open, or if help pages are shown in its
     /// place.
     void MakeReport();
     /// The directory of the next report.
@@ -38,7 +38,7 @@ public:
 
     desktop::OstrelWebHelpWidget& Widget() { return *widget_; }
     const Work& CurrentWork() const { return work_; }
-    /// The sentence of what is wrong, as it stands in the window; empty for nothing.
+    /// Returns the error message shown in the window, or an empty text.
     QString Trouble() const;
 
 signals:
@@ -63,7 +63,7 @@ private:
     void ShowHelpPage(const QString& name);
     void TellOutcome(const ReportOutcome& outcome, double seconds);
     void TellDirectoryTrouble(const QString& sentence);
-    /// Asks where files stand that the report would replace; false where it is not to be made.
+    /// Asks the user before existing files are replaced. Returns false if the report is not to be made.
     bool MayWrite(ReportJob& job, const QString& directory);
     void KeepPlan();
     ReportPlan PlanFor(const TableFile& file);
@@ -83,7 +83,7 @@ private:
     /// A table that a page links to is opened by the program that the desktop has for it; false for pages.
     bool LeaveToOthers(const Text& address);
 
-    // The widget goes first, by the destructor: its control tells the parts around it of its end.
+    // The destructor deletes the widget first: its control still notifies the other members.
     std::unique_ptr<desktop::OstrelWebHelpWidget> widget_;
     Work work_;
     Actions actions_;

@@ -29,7 +29,7 @@ bool OpensFolders() {
 /// Milliseconds until a yield that is not ours may have ended.
 constexpr int RetryDelay = 50;
 
-/// The one local thing that is being dragged; empty for anything else.
+/// Returns the path of the single local file or directory being dragged; empty for anything else.
 QString DraggedPath(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
@@ -59,7 +59,7 @@ void MainWindow::Arrange() {
 
     OstrelWebHelp& web = widget_->Web();
     web.ProgramName(ApplicationTitle);
-    // Only the buttons whose work the component does by now.
+    // Only the buttons whose actions are implemented.
     web.ToolbarFormat("Back Forward Space Stop Refresh Home Space Full");
     setAcceptDrops(true);
     // The engine would take what is dropped for a page to load.
@@ -128,7 +128,7 @@ void MainWindow::SaveState() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    // Whoever yields is still inside the control, and goes on with it afterwards.
+    // A yielding caller is still inside the control and continues with it afterwards.
     if (work_.Running() || widget_->InYield()) {
         event->ignore();
         closeWanted_ = true;

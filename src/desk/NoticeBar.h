@@ -6,7 +6,7 @@
 
 namespace ostrel::desk {
 
-/// A bar that says in words what came of something, until it is closed or something else is begun.
+/// A bar that reports the result of an operation until it is closed or another operation begins.
 class NoticeBar final : public QFrame {
 public:
     explicit NoticeBar(QWidget* parent = nullptr);
@@ -16,7 +16,7 @@ public:
     /// The sentence, with all troubles below it.
     void TellTroubles(const QString& sentence, const QStringList& troubles);
     void Clear();
-    /// The sentence of the trouble on view; empty for none.
+    /// Returns the error message shown, or an empty text.
     const QString& Trouble() const { return trouble_; }
 
 private:

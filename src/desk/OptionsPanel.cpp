@@ -23,13 +23,13 @@ QLabel* Caption(const QString& text, QWidget& buddy) {
     return label;
 }
 
-/// A quieter line: it explains what stands above it.
+/// A line in a lighter colour that explains the one above it.
 void MakeQuiet(QLabel& label) {
     label.setForegroundRole(QPalette::PlaceholderText);
     label.setWordWrap(true);
 }
 
-/// The whole path of a directory as it was typed; empty for none.
+/// Returns the full path of a directory typed by the user; empty for an empty text.
 QString Whole(const QString& typed) {
     const QString directory = typed.trimmed();
     if (directory.isEmpty()) return {};

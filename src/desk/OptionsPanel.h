@@ -34,7 +34,7 @@ public:
 
 signals:
     void MakeWanted();
-    /// The user wants another table of the database.
+    /// Called when the user chooses another table of the database.
     void TableWanted(const QString& name);
 
 private:

@@ -17,7 +17,7 @@ PaneStatus::PaneStatus(QMainWindow& window, desktop::OstrelWebHelpWidget& widget
     seconds_.setToolTip("How long the page took to load");
     seconds_.setForegroundRole(QPalette::PlaceholderText);
     window.statusBar()->addPermanentWidget(&seconds_);
-    // The ways are there as well while the toolbar is hidden.
+    // Back and Forward work while the toolbar is hidden, too.
     const auto press = [this](QAction* action, const char* button) {
         connect(action, &QAction::triggered, this, [this, button] { widget_.Web().ButtonClick(button); });
     };
@@ -59,7 +59,7 @@ void PaneStatus::ShowTitle() {
 }
 
 void PaneStatus::ShowStatus(const Text& text) {
-    // The control also tells the steps of its own life, and the engine which pages it has left as they were.
+    // Filter out the control's own lifecycle messages, and the engine's messages about unchanged pages.
     if (text.starts_with("Web Help - ") || work_.Running()) return;
     // What is cancelled has stopped by then.
     if (text == "Cancel...") return window_.statusBar()->showMessage("Stopped.");

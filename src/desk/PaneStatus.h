@@ -8,8 +8,8 @@
 
 namespace ostrel::desk {
 
-/// Shows in the frame of a window what the pane tells of itself: its title, status line and loading time, and
-/// which ways it can go.
+/// Shows the state of the pane in the frame of a window: its title, status line and loading time, and
+/// whether it can go back and forward.
 class PaneStatus final : public QObject {
     Q_OBJECT
 

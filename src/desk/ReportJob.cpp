@@ -85,7 +85,7 @@ ReportOutcome ReportJob::Run() {
         outcome_.stopped = true;
     else
         MakePages();
-    // The parts of the last page stand in the control, and may be large.
+    // The parts of the last page are kept in the control and may be large.
     web_.PageInitialise();
     StopListening();
     return outcome_;
@@ -160,7 +160,7 @@ void ReportJob::Finish(bool made, const Text& message) {
     outcome_.stopped = work_.StopWanted() && !made;
     std::string trouble = files_->End();
     if (!made && !outcome_.stopped && failures_.Empty() && trouble.empty()) {
-        // No event tells of the CSV file, and the message does not name it.
+        // There is no event for the CSV file, and the message does not name it.
         if (files_->LastFailed().empty())
             trouble = files_->Shown(message);
         else

@@ -17,7 +17,7 @@ namespace ostrel::desk {
 
 /// What came of a report.
 struct ReportOutcome {
-    bool made = false;        ///< every page stands
+    bool made = false;        ///< every page was written
     bool stopped = false;     ///< the user ended it
     QString directoryTrouble; ///< nothing was begun, since the directory cannot be written
     QStringList troubles;     ///< what could not be written and why, a sentence each
@@ -36,9 +36,9 @@ public:
     ReportJob(const ReportJob&) = delete;
     ReportJob& operator=(const ReportJob&) = delete;
 
-    /// Finds out what stands there, and changes nothing. Runs as the work in hand, before `Run`.
+    /// Finds out which files exist already and changes nothing. Runs before `Run`.
     StandingFiles Look();
-    /// What was found to stand there may be replaced.
+    /// Lets `Run` replace the files that were found.
     void AllowAll() { files_->AllowAll(); }
     /// Runs as the work in hand, once.
     ReportOutcome Run();

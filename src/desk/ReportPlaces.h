@@ -8,7 +8,7 @@ class QWidget;
 
 namespace ostrel::desk {
 
-/// What stands where a report is going to be written.
+/// What exists already where a report is going to be written.
 struct StandingFiles {
     QString trouble;         ///< the directory cannot be written
     QStringList files;       ///< names of files that no report made

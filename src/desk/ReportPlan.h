@@ -27,7 +27,7 @@ struct ColumnChoice {
 /// The options of the component end at this column; those behind it are shown and have no pages.
 inline constexpr auto ColumnReach = static_cast<std::size_t>(tables::ColumnReach);
 
-/// What the user wants of a report.
+/// The user's options for a report.
 struct ReportPlan {
     QString title;
     QString directory;
@@ -47,7 +47,7 @@ struct ReportPlan {
     qint64 RecordPages(Long rows) const { return records ? rows : 0; }
 };
 
-/// The plan of a table nobody has chosen anything for.
+/// Returns the default plan of a table.
 ReportPlan FirstPlan(const tables::InputTable& table);
 
 /// A plan as ASCII that settings may hold. Columns are known by their names, so that it also serves a file

@@ -11,7 +11,7 @@ namespace ostrel::desk {
 namespace {
 
 constexpr int LookInterval = 50;
-/// The engine draws a page a little later than it tells of it.
+/// The engine paints a page a little after it reports the load.
 constexpr qint64 QuietTime = 700;
 constexpr qint64 LongestWait = 120'000;
 

@@ -8,7 +8,7 @@ namespace ostrel::desk {
 class MainWindow;
 
 /// Waits until a window has loaded all that it is going to show, leaves a picture of it and ends the
-/// application: with status 0, or with 1 and a sentence where that failed or the window tells of trouble.
+/// application: with status 0, or with 1 and a sentence where that failed or the window shows an error.
 class Screenshot final : public QObject {
     Q_OBJECT
 

@@ -42,7 +42,7 @@ void ReadDatabase(const QString& wanted, TableFile& file, Work& work) {
     const std::string path = file.path.toStdString();
     for (const std::string& name : tables::SqliteTableNames(path))
         file.tables << QString::fromStdString(name);
-    // Where nobody has chosen yet, the first table that has rows serves; the others can be chosen then.
+    // Before the user has chosen, take the first table that has rows.
     const QStringList candidates = file.tables.contains(wanted) ? QStringList{wanted} : file.tables;
     for (const QString& candidate : candidates) {
         file.chosen = candidate;

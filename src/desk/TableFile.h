@@ -33,7 +33,7 @@ struct TableReading {
     QString trouble;
 };
 
-/// Reads a CSV file, or a table of a SQLite database: the first one where none is wanted.
+/// Reads a CSV file, or a table of a SQLite database: the first one if none is named.
 TableReading ReadTableFile(const QString& path, const QString& wantedTable, Work& work);
 
 /// The name of a column as the user knows it.

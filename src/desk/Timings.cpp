@@ -14,12 +14,13 @@ namespace ostrel::desk {
 
 namespace {
 
-/// What the system says of when this process began; the loading of libraries counts.
+/// Returns the start time of this process as the system reports it, so that the loading of libraries is
+/// included.
 double MillisecondsSinceStart() {
     QFile file("/proc/self/stat");
     if (!file.open(QIODevice::ReadOnly)) return 0;
     const QByteArray line = file.readAll();
-    // The name of the program stands in brackets and may hold anything; the start is the 22nd word of the
+    // The program's name is in parentheses and may hold any character; the start time is field 22 of the
     // line.
     const QList<QByteArray> words = line.mid(line.lastIndexOf(')') + 2).split(' ');
     constexpr int startWord = 22 - 3;

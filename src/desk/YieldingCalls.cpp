@@ -25,7 +25,7 @@ ssize_t YieldingCalls::Write(int file, const iovec* pieces, int count) {
         errno = ECANCELED;
         return -1;
     }
-    // Whoever writes goes on behind what was written.
+    // The caller continues behind what was written.
     if (pieces[0].iov_len >= PieceSize) {
         const iovec piece{pieces[0].iov_base, PieceSize};
         return SystemCalls::Write(file, &piece, 1);

@@ -17,7 +17,7 @@ namespace {
 
 using namespace ostrel::desk;
 
-/// The answer to a question for help or the version, which needs no screen; empty for none.
+/// Returns the output of --help or --version, which need no screen; empty if neither was given.
 QString Answer(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     return ReadCommandLine(QCoreApplication::arguments()).answer;
@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN);
     // The engine does not start with its sandbox as root.
     if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    // It would tell everybody at every start which graphics it has found.
+    // Without this the engine prints the graphics driver at every start.
     QLoggingCategory::setFilterRules("qt.webenginecontext.debug=false\nqt.webenginecontext.info=false");
     QCoreApplication::setApplicationName("ostrel-desk");
     if (const QString answer = Answer(argc, argv); !answer.isEmpty()) {

@@ -32,7 +32,7 @@ QWebEnginePage* BrowserWindows::Open() {
     std::erase_if(windows_, [](const QPointer<QWebEngineView>& window) { return !window; });
     if (windows_.size() >= MostWindows) return nullptr;
     auto* view = new QWebEngineView;
-    // The page that opened the window may hold on to it, and must not read what it shows.
+    // The page that opened the window may keep a reference to it and must not read its content.
     const auto isolate = [view](const QUrl& url, QWebEnginePage::NavigationType, bool mainFrame) {
         if (!mainFrame || !url.isLocalFile()) return true;
         QTimer::singleShot(0, view, [view, url] { view->load(FrameFiles::AddressOf(url)); });

@@ -19,12 +19,12 @@ public:
     BrowserWindows(const BrowserWindows&) = delete;
     BrowserWindows& operator=(const BrowserWindows&) = delete;
 
-    /// Opens an empty window and gives its page, which belongs to it; null where there are too many already.
+    /// Opens an empty window and returns its page, which it owns; null if too many windows are open.
     QWebEnginePage* Open();
     /// The page of the pane is about to go. Windows that show nothing but what it wrote into them go with it:
     /// a script in there is of its origin, and could read the page that comes next.
     void OpenerLeaves();
-    /// The windows that stand, oldest first.
+    /// The open windows, oldest first.
     std::vector<QWidget*> Standing() const;
 
 private:

@@ -42,8 +42,8 @@ Integer ShiftOf(Qt::KeyboardModifiers keys) {
                                 (keys.testFlag(Qt::AltModifier) ? 4 : 0));
 }
 
-/// What a widget does not take would go on to the one around it and be told from there: of a button once
-/// more, of a label or the stop panel though nobody hears of those.
+/// An event that a widget ignores is passed to its parent and would be reported there: for a button once
+/// more, for a label or the stop panel though these have no events.
 void KeepMouse(QWidget& widget) { widget.setAttribute(Qt::WA_NoMousePropagation); }
 
 } // namespace

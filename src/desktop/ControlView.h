@@ -16,20 +16,20 @@
 
 namespace ostrel::desktop {
 
-/// The widgets of the control's visual children. They show what the control's model says and hold nothing of
-/// their own; what the user does to them goes to the control, which may change the model. Places come from
+/// The widgets of the control's visual children. They show the control's model and keep no state of
+/// their own; user input is passed to the control, which may change the model. Places come from
 /// the model, in twips.
 class ControlView final : public QObject {
 public:
-    /// The widgets lie in `surface`; the engine's view goes into `PaneHost`.
+    /// The widgets are children of `surface`; the engine's view is placed in `PaneHost`.
     explicit ControlView(QWidget& surface);
 
     QWidget& PaneHost() { return *paneHost_; }
-    /// From now on shows and works this control; null for none.
+    /// Shows and operates this control from now on; null for no control.
     void Attach(OstrelWebHelp* web) { web_ = web; }
     /// Brings the widgets up to date. Costs little where nothing has changed.
     void Sync();
-    /// The widget of the child of that name; null for none.
+    /// Returns the widget of the child of that name, or null.
     QWidget* Find(const Text& name) const;
     /// A mouse event over a child, in that child's pixels; "" is the control itself.
     void Mouse(const QMouseEvent& event, const Text& child);
@@ -62,7 +62,7 @@ private:
     QLineEdit* address_ = nullptr;
     QPushButton* go_ = nullptr;
     QGroupBox* stopPanel_ = nullptr;
-    bool enabled_ = true; ///< what the control said last
+    bool enabled_ = true; ///< the control's last value
     bool syncing_ = false;
 };
 

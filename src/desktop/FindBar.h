@@ -12,7 +12,7 @@ namespace ostrel::desktop {
 /// next place, Shift and Enter to the one before, Escape closes it.
 class FindBar final : public QWidget {
 public:
-    /// Belongs to the view's parent and stands over the view.
+    /// A child of the view's parent, placed over the view.
     explicit FindBar(QWebEngineView& view);
 
     /// Shows it with its text selected, ready to be typed over.

@@ -46,7 +46,7 @@ void FlowLayout::setGeometry(const QRect& area) {
 int FlowLayout::Flow(const QRect& area, bool place) const {
     std::vector<QLayoutItem*> row;
     int x = area.x(), y = area.y(), height = 0;
-    // A row is placed when its height is known, so that a check box stands level with a button.
+    // A row is placed when its height is known, so that a check box is centred beside a button.
     const auto finishRow = [&] {
         int left = area.x();
         for (QLayoutItem* item : row) {

@@ -6,7 +6,7 @@
 
 namespace ostrel::desktop {
 
-/// Puts widgets side by side in as many rows as the width asks for. Hidden ones leave no gap.
+/// Places widgets side by side in as many rows as the width needs. Hidden ones leave no gap.
 class FlowLayout final : public QLayout {
 public:
     /// `comfortable` is the width, in pixels, that it would rather not pass.

@@ -37,14 +37,14 @@ OstrelWebHelpWidget::OstrelWebHelpWidget(QWidget* parent, EventList::AnyListener
     });
     web_->InitProperties();
     view_->Attach(web_.get());
-    // The model tells of no change by itself; before the loop sleeps the widgets are brought up to date.
+    // The model sends no change notifications, so the widgets are updated before the event loop sleeps.
     if (auto* loop = QAbstractEventDispatcher::instance())
         connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, [this] { Sync(); });
     AddShortcuts();
 }
 
 OstrelWebHelpWidget::~OstrelWebHelpWidget() {
-    // What the control tells of its end may still turn the loop, in which the widgets look at it.
+    // Listeners of the control's last events may still run the event loop, in which the widgets read it.
     web_->Terminate();
     view_->Attach(nullptr);
     web_.reset();

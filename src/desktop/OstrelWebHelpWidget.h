@@ -12,14 +12,14 @@ class ControlView;
 class QtPane;
 
 /// The component on a form: one widget that owns a control and the desktop around it. A host sets properties,
-/// calls members and listens through `Web()`; the widget shows what the control says of its children and
+/// calls members and listens through `Web()`; the widget shows the control's children and
 /// passes on what the user does. The control runs on the thread of the widget.
 ///
 /// While a long job of the control runs, events of the whole application are handled inside it; a host must
 /// not delete the widget then (see `InYield`).
 class OstrelWebHelpWidget final : public QWidget {
 public:
-    /// The control is new: its properties have their defaults. `listener` hears every event from the first
+    /// Makes a new control with default properties. `listener` receives every event from the first
     /// on.
     explicit OstrelWebHelpWidget(QWidget* parent = nullptr, EventList::AnyListener listener = {});
     ~OstrelWebHelpWidget() override;
@@ -27,9 +27,9 @@ public:
     OstrelWebHelp& Web() { return *web_; }
     Platform& World() { return platform_; }
     QtPane& Pane() { return *pane_; }
-    /// The widget of a visual child ("picToolbar", "cmdBack", "cmdButton(1)"); null for none.
+    /// The widget of a visual child ("picToolbar", "cmdBack", "cmdButton(1)"), or null.
     QWidget* ChildWidget(const Text& name) const;
-    /// Shows at once what the control says of its children. It happens by itself before the loop waits.
+    /// Updates the widgets now. Called automatically before the event loop waits.
     void Sync();
     /// Whether the event loop is being run from inside the control.
     bool InYield() const;

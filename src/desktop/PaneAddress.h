@@ -10,10 +10,11 @@ namespace ostrel::desktop {
 /// it where no file has that name), a `file:` address with or without a drive, or any other address.
 QUrl UrlOf(const Text& address);
 
-/// Whether it is a page of the engine itself, such as the blank one, for which it asks nobody.
+/// Whether it is a page of the engine itself, such as the blank one, for which no request is sent.
 bool IsBlank(const QUrl& url);
 
-/// What the component calls an address of the engine: local files by their paths, all else as it stands.
+/// Converts an address of the engine to the component's form: local files by their paths, all others
+/// unchanged.
 Text AddressOf(const QUrl& url);
 
 } // namespace ostrel::desktop

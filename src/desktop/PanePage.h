@@ -6,8 +6,8 @@
 
 namespace ostrel::desktop {
 
-/// A page of the engine that asks before it goes anywhere. Of its messages, those are not shown that come in
-/// a long row with no pause between them: each holds up the whole application until it is answered.
+/// A page of the engine that asks before each navigation. Script dialogs are suppressed if they come in
+/// a long row without a pause: each blocks the whole application until it is answered.
 class PanePage final : public QWebEnginePage {
 public:
     /// Whether the page may go there.

@@ -8,7 +8,7 @@ namespace ostrel::desktop {
 
 void RefuseSockets() {
     constexpr const char* Switches = "QTWEBENGINE_CHROMIUM_FLAGS";
-    // The host may have switches of its own.
+    // Keep the host's own switches.
     qputenv(Switches, qgetenv(Switches) + " --disable-blink-features=WebTransport"
                                           " --force-webrtc-ip-handling-policy=disable_non_proxied_udp");
 }

@@ -12,7 +12,7 @@ namespace ostrel::desktop {
 
 namespace {
 
-/// Content that lies on this machine, or in the page itself.
+/// Content on this machine, or in the page itself.
 bool IsLocal(const QUrl& url) {
     for (const char* scheme : {"file", "data", "blob", "about", "qrc", "chrome", "devtools"})
         if (url.scheme() == QLatin1String(scheme)) return true;
@@ -35,7 +35,7 @@ bool IsReadAsText(const QUrl& file) {
 }
 
 /// Whether a remote page is behind the request. To the engine the first party of a step in the history is the
-/// page that the step leaves, which has no say in it: the step leads to where the user has been.
+/// page that the step leaves: it leads to where the user has been, so that page need not be trusted.
 bool IsOfRemotePage(const QWebEngineUrlRequestInfo& request) {
     const bool stepOfHistory =
         request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame &&

@@ -12,7 +12,7 @@ namespace ostrel::desktop {
 /// nothing more: no remote content while the pane is offline, no downloads, no camera, microphone, place or
 /// notifications, no reading of the clipboard. A script of a local page can read no other local page or data
 /// file: its requests for files are blocked, and its frames come from `FrameFiles`. The pictures and style
-/// sheets that it shows lie open to it.
+/// sheets that it shows are readable to it.
 class PaneTrust final : public QWebEngineUrlRequestInterceptor {
 public:
     /// From now on all pages of the profile are held to it. It must outlive the profile's pages.

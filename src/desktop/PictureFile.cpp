@@ -10,7 +10,7 @@ QPixmap LoadPicture(const Picture& picture) {
     const auto path = NativePaths().ToSystem(picture.path);
     if (!path) return {};
     QImageReader reader(QString::fromStdString(*path));
-    // The name may lie: hosts keep bitmaps under any extension.
+    // Do not trust the extension: hosts keep bitmaps under any name.
     reader.setDecideFormatFromContent(true);
     return QPixmap::fromImageReader(&reader);
 }

@@ -6,7 +6,7 @@
 
 namespace ostrel::desktop {
 
-/// The picture of the component's path; null where there is none that can be shown.
+/// Returns the picture at the component's path; null if there is none that can be shown.
 QPixmap LoadPicture(const Picture& picture);
 
 } // namespace ostrel::desktop

@@ -24,14 +24,14 @@ public:
     /// What the loop does for windows ends it too.
     bool Sleep(Long longest, std::span<WakeSource> sources) override;
 
-    /// Whether a yield is being carried out.
+    /// Whether a yield is running.
     bool InYield() const { return depth_ > 0; }
 
 private:
     class LoopTimer;
 
     void RunDue();
-    /// Lets the loop wake when the next thing is due.
+    /// Wakes the event loop when the next timer is due.
     void Wake();
 
     std::function<void()> turned_;

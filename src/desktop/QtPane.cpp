@@ -82,7 +82,7 @@ void QtPane::ConnectPage() {
     QObject::connect(&profile_, &QWebEngineProfile::downloadRequested, page,
                      [this](const QWebEngineDownloadRequest* download) {
                          TellStatus("Can't open page " + Told(download->url()));
-                         // The engine does not always tell that the load has come to nothing.
+                         // The engine does not always report that a load has failed.
                          if (load_ && !load_->committed && load_->url == download->url()) Stopped();
                      });
     // For some pages the engine takes another widget, and the focus of the old one would go anywhere.
@@ -110,7 +110,7 @@ void QtPane::Navigate(const Text& url) {
     if (named_.size() >= MostNames) named_.clear();
     if (address.isLocalFile()) named_[address] = url;
     if (url == BlankPage && shown_.isEmpty() && !load_) {
-        // A fresh pane is blank already: to be asked for the blank page tells nothing.
+        // A new pane is blank already, so a navigation to the blank page raises no events.
         load_ = Load{Way::Quiet, address};
         page_->load(address);
         return;
@@ -123,7 +123,7 @@ void QtPane::Navigate(const Text& url) {
 }
 
 void QtPane::AskEngine(const QUrl& url) {
-    // The engine asks nobody for blank pages and for steps inside the page on view.
+    // The engine sends no request for blank pages and for steps inside the current page.
     const bool inside =
         url.hasFragment() && url != shown_ && url.matches(shown_, QUrl::RemoveFragment) && !IsBlank(url);
     if (inside || IsBlank(url)) {
@@ -162,7 +162,7 @@ void QtPane::GoForward() {
 
 void QtPane::Step(QWebEnginePage::WebAction way, const QUrl& url) {
     if (IsBlank(url)) {
-        // The engine asks nobody for blank pages.
+        // The engine sends no request for blank pages.
         asked_.reset();
         const unsigned request = ++requests_;
         if (!HostAllows(url, true) || request != requests_) return;
@@ -180,7 +180,7 @@ void QtPane::Stop() {
     asked_.reset();
     page_->triggerAction(QWebEnginePage::Stop);
     if (load_) load_->halting = true;
-    // Whoever stops the pane hears of it behind the call.
+    // The events of a stop are raised after the call.
     QTimer::singleShot(0, page_.get(), [this] {
         if (load_ && load_->halting) Halted();
     });
@@ -188,7 +188,7 @@ void QtPane::Stop() {
 }
 
 void QtPane::AskForLife() {
-    // A layout or a script without end hears of no stop, and keeps every further page waiting.
+    // A layout or script without an end ignores the stop and blocks every further page.
     if (deaf_.isActive()) return;
     questions_ = 0;
     PutQuestion();

@@ -22,10 +22,11 @@ namespace ostrel::desktop {
 /// DownloadBegin, StatusTextChange and ProgressChange as they come, NavigateComplete2, TitleChange, what
 /// changed of the forward and back states, StatusTextChange "done", DocumentComplete, DownloadComplete. A
 /// page is done when it is laid out, which for a large one is long after it has come; the pane is busy until
-/// then. A refresh tells no navigation, and DocumentComplete only where it fails or is stopped; a step inside
-/// the page on view tells no download. Where a page cannot be had the engine shows one that says why, and
-/// that one completes; the status text then says so in place of "done". Local pages are reported by the very
-/// text given to `Navigate`. The first pane of a process must come before any other use of the engine in it.
+/// then. A refresh raises no navigation events, and DocumentComplete only if it fails or is stopped; a step
+/// inside the current page raises no download events. If a page cannot be loaded the engine shows an error
+/// page, and that one completes; the status text is then the error in place of "done". Local pages are
+/// reported by the very text given to `Navigate`. The first pane of a process must come before any other use
+/// of the engine in it.
 class QtPane final : public BrowserPane {
 public:
     /// The view fills `host`, which outlives the pane.
@@ -41,7 +42,7 @@ public:
     void GoHome() override;
     void GoSearch() override;
     /// A page that does not answer within a second after it, be it in the middle of its layout or in a script
-    /// without end, is ended; a line in the pane says so.
+    /// without end, is ended; a line in the pane reports it.
     void Stop() override;
     void Refresh2(RefreshLevel level) override;
     /// Copies the selection or selects all; other commands are left alone.
@@ -62,7 +63,7 @@ public:
 
 private:
     enum class Way { Quiet, Plain, Refresh };
-    /// One load on its way.
+    /// One load in progress.
     struct Load {
         Way way = Way::Plain;
         QUrl url;
@@ -70,7 +71,7 @@ private:
         bool started = false;
         bool committed = false;
         bool loaded = false;  ///< all of it has come, and is being laid out
-        bool halting = false; ///< it was told to stop, and its end is about to be told
+        bool halting = false; ///< it was stopped, and the events of its end are still to come
         bool step = false;    ///< in the history
         /// Asked of the engine once more, since the process of the page before has ended.
         bool again = false;
@@ -83,7 +84,7 @@ private:
     bool HostAllows(const QUrl& url, bool mainFrame);
     QWebEnginePage* OpenWindow();
     void Begin(Way way, const QUrl& url);
-    /// Ends the page if it gives no answer; nothing new where one is awaited already.
+    /// Ends the page if it does not answer. Does nothing if an answer is awaited already.
     void AskForLife();
     void PutQuestion();
     void NoLife();
@@ -92,17 +93,17 @@ private:
     void AskEngineAgain();
     /// Whether the load in hand has yet to come, in whole or in part.
     bool Coming() const { return load_ && !load_->loaded; }
-    /// Whether it is asked of the engine once more, which has yet to begin it.
+    /// Whether the engine has been asked to load it again and has not begun.
     bool AskedAgain() const { return load_ && load_->again && !load_->started; }
     void LoadingChanged(const QWebEngineLoadingInfo& info);
     void Started(const QUrl& url);
-    /// The load in hand has come; its end is told when it is laid out.
+    /// The content of the current load has come; its end is reported after layout.
     void AwaitLayout();
-    /// Tells the end of the load in hand; an empty status is not told.
+    /// Raises the events of the end of the current load; an empty status is not raised.
     void Finished(const Text& status);
-    /// The load in hand was stopped. What had come of a page by then is on view and complete.
+    /// The current load was stopped. The part of the page that has come is shown and complete.
     void Halted();
-    /// The load in hand came to nothing, or made way for another.
+    /// The current load failed or was replaced by another.
     void Stopped();
     /// An address that the engine knows nothing to do with.
     void Refused(const Text& address);
@@ -152,7 +153,7 @@ private:
     bool hovering_ = false;
     QTimer settle_;
     QTimer deaf_;
-    bool killed_ = false; ///< by this pane, and the engine has yet to tell
+    bool killed_ = false; ///< by this pane; the engine has not reported it yet
     int questions_ = 0;   ///< put to the page since it was last to show that it answers
 };
 

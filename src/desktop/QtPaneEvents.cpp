@@ -12,7 +12,7 @@ namespace {
 
 const Text Done = "done";
 
-/// Until a page has told its title the engine makes do with its file's name or its address.
+/// Until a page's title is known the engine reports its file name or its address as the title.
 bool IsStandIn(const QString& title, const QUrl& url) {
     return title.isEmpty() || url.toString().endsWith(title);
 }
@@ -37,8 +37,8 @@ bool QtPane::MayGo(const QUrl& url, QWebEnginePage::NavigationType type, bool ma
         Begin(Way::Refresh, url);
         return true;
     }
-    // A server leads elsewhere before anything has come; later on it is the page that does, and asks anew. Of
-    // a page that comes once more the engine does not tell when it is there.
+    // A server redirects before any content has come; later it is the page that navigates, with a new
+    // request. For a page that is loaded again the engine does not report when it has come.
     if (type == QWebEnginePage::NavigationTypeRedirect && load_ && !load_->committed &&
         load_->url != shown_) {
         load_->url = url;
@@ -106,7 +106,7 @@ void QtPane::LoadingChanged(const QWebEngineLoadingInfo& info) {
 }
 
 void QtPane::Started(const QUrl& url) {
-    // A script that goes back to a blank page: the engine asks nobody, and it cannot be stopped any more.
+    // A script that goes back to a blank page: the engine sends no request for it, and it cannot be vetoed.
     if (!Coming() && !asked_ && IsBlank(url)) {
         (void)HostAllows(url, true);
         Begin(Way::Plain, url);
@@ -137,7 +137,7 @@ void QtPane::UrlChanged() {
     shown_ = page_->url();
     if (!load_) return MovedInsidePage();
     Commit();
-    // Right behind a page that was stopped the engine tells neither begin nor end of a blank one.
+    // Directly after a stopped page the engine reports neither the start nor the end of a blank one.
     if (IsBlank(shown_) && !page_->isLoading()) Finished(Done);
 }
 
@@ -164,7 +164,7 @@ void QtPane::TitleChanged(const QString& title) {
 }
 
 void QtPane::Hovered(const QString& url) {
-    // The engine also leaves links that nobody was on.
+    // The engine also reports leaving links that were never hovered.
     if (url.isEmpty() && !hovering_) return;
     hovering_ = !url.isEmpty();
     TellStatus(hovering_ ? Told(QUrl(url)) : Text());
@@ -185,7 +185,7 @@ void QtPane::Finished(const Text& status) {
     if (ends()) return;
     TellStates();
     if (ends()) return;
-    // From here on a listener may start the next load; this one is told to its end.
+    // A listener may start the next load from here on; the events of this one are still completed.
     load_.reset();
     if (!status.empty()) TellStatus(status);
     if (load.way == Way::Plain || status != Done)

@@ -44,7 +44,7 @@ const QScreen& ScreenOf(const QWidget* widget) {
 } // namespace
 
 void QtScreen::ShowModal(Form& form) {
-    // On the heap, since the dialog goes with its owner, whenever that is.
+    // On the heap, since the owner deletes the dialog, possibly while it is shown.
     const QPointer<FormDialog> dialog = new FormDialog(form, Window());
     dialog->exec();
     const std::exception_ptr failure = dialog ? dialog->Failure() : nullptr;
@@ -103,7 +103,7 @@ Extent QtScreen::Measure(const Text& text) const {
 void QtScreen::Beep() { QApplication::beep(); }
 
 void QtScreen::MousePointer(PointerShape shape) {
-    // A modal dialog covers the window, so the pointer stands over either.
+    // A modal dialog covers the window, so the pointer may be over either.
     for (QWidget* window : {widget_ ? widget_->window() : nullptr, QApplication::activeModalWidget()}) {
         if (!window) continue;
         if (shape == PointerShape::Default)

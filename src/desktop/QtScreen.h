@@ -7,7 +7,7 @@
 
 namespace ostrel::desktop {
 
-/// The desktop that a widget stands on. Dialogs and messages belong to the widget's window.
+/// The screen of a widget. Dialogs and message boxes are children of the widget's window.
 class QtScreen final : public Screen {
 public:
     /// `widget` may go before the screen does; then dialogs have no owner.

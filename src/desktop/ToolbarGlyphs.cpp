@@ -26,7 +26,7 @@ const Tones& TonesOf(QIcon::Mode mode) {
     return mode == QIcon::Disabled ? grey : lively;
 }
 
-/// What lies inside an outline: it lets the toolbar shine through, so that it suits any background.
+/// The fill of an outline: translucent, so that it suits any background.
 QColor Tint(QColor tone) {
     tone.setAlpha(0x38);
     return tone;
@@ -210,7 +210,7 @@ public:
         const double side = std::min(box.width(), box.height());
         const QTransform device = painter->deviceTransform();
         const double pixelsPerPoint = std::hypot(device.m11(), device.m12());
-        // A button may stand between two device pixels of a scaled screen; its glyph must not.
+        // A button may lie between two device pixels of a scaled screen; its glyph must not.
         const QPointF corner(box.x() + (box.width() - side) / 2, box.y() + (box.height() - side) / 2);
         const QPointF placed = device.map(corner);
         const QPointF whole(std::round(placed.x()), std::round(placed.y()));

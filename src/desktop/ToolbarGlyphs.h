@@ -6,7 +6,7 @@
 
 namespace ostrel::desktop {
 
-/// The picture of a default button, drawn anew at whatever size and scale it is asked for; grey where it is
+/// The picture of a default button, drawn for any size and scale; grey where it is
 /// disabled.
 QIcon ToolbarGlyph(ToolbarAction action);
 

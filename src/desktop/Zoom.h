@@ -5,7 +5,7 @@ class QWidget;
 
 namespace ostrel::desktop {
 
-/// Ctrl + and Ctrl - make a page larger and smaller, Ctrl 0 gives it its own size again, wherever inside
+/// Ctrl + and Ctrl - make a page larger and smaller, Ctrl 0 resets it, wherever inside
 /// `widget` the focus is.
 void AddZoomShortcuts(QWidget& widget, QWebEnginePage& page);
 

@@ -18,9 +18,6 @@ struct HelpProperties {
     Text HelpRefreshURL;
     /// The refresh target that the head of a page really uses.
     Text HelpRefreshTarget;
-    /// Outcome of the last save of a page.
-    Flag NewFile, ErrorFound;
-    Long BytesWritten = 0;
 };
 
 } // namespace ostrel

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "html/PageParts.h"
+#include "html/PageDocument.h"
 #include "text/CodePage.h"
 
 namespace ostrel::html {
@@ -83,7 +83,7 @@ TextView WithoutLineEnds(TextView line) {
 } // namespace
 
 Rope PageLineWrap(const PageScope& scope, const Rope& text) {
-    const Long width = scope.help.HelpPageWidth;
+    const Long width = scope.draft.HelpPageWidth;
     if (width < SmallestWidth || text.Size() > LongestText) return text;
     const Text whole = text.ToText();
     LineWrapper wrapper(static_cast<std::size_t>(width));

@@ -33,7 +33,7 @@ void SplitEdges(TextView line, TextView& before, TextView& core, TextView& after
 Text LocalPathFromLink(const PageScope& scope, TextView link) {
     if (link.find('/') != NotFound) return {};
     if (link.find('\\') != NotFound) return Text(link);
-    if (scope.help.HelpRemote || scope.service.DirectoryHelp.empty()) return {};
+    if (scope.draft.HelpRemote || scope.service.DirectoryHelp.empty()) return {};
     return services::AddMissingBackslash(scope.service.DirectoryHelp).append(link);
 }
 
@@ -47,7 +47,7 @@ Text CreateImage(const PageScope& scope, TextView image, TextView alt, TextView 
     if (!height.empty()) AddHTMLTag(result, "HEIGHT", height);
     if (!align.empty()) AddHTMLTag(result, "ALIGN", align);
     result.append(">");
-    if (scope.help.TestImage && !image.empty()) TestFile(scope, image, scope.context.events.ImageMissing);
+    if (scope.draft.TestImage && !image.empty()) TestFile(scope, image, scope.context.events.ImageMissing);
     return result;
 }
 
@@ -63,7 +63,7 @@ void AppendLinkTitle(const PageScope& scope, Text& output, TextView hyperlink, T
     if (italic) output.append("</I>");
     if (bold) output.append("</B>");
     output.append("</A>");
-    if (scope.help.TestHyperlink && !hyperlink.empty() && !hyperlink.starts_with('#') &&
+    if (scope.draft.TestHyperlink && !hyperlink.empty() && !hyperlink.starts_with('#') &&
         !StartsWithText(hyperlink, "mailto:"))
         TestFile(scope, hyperlink, scope.context.events.HyperlinkMissing);
 }

@@ -8,11 +8,11 @@
 
 namespace ostrel::html {
 
-/// What the builders of pages reach: the state of the page under construction and the world around it.
+/// What the builders of pages reach.
 struct PageScope {
     Context& context;
-    HelpProperties& help;
-    PageProperties& page;
+    HelpProperties& draft;    ///< the page under construction
+    PageProperties& settings; ///< what the host wants of all its pages
     PageFonts& fonts;
     const ServiceProperties& service;
 };

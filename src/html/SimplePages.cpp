@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include "html/Elements.h"
-#include "html/PageParts.h"
-#include "text/Enumerations.h"
+#include "html/FontType.h"
+#include "html/PageDraft.h"
+#include "html/PageProgress.h"
+#include "html/PageSave.h"
+#include "html/PageText.h"
 #include "text/NumberText.h"
 
 namespace ostrel::html {
@@ -17,17 +20,17 @@ bool MakePage(const PageScope& scope, const Text& filePath, Text& error, Fill fi
     error.clear();
     Text path;
     if (!PageFilePath(scope, filePath, path, error)) return false;
-    scope.page.CurrentCreatePage = path;
+    scope.settings.CurrentCreatePage = path;
     TellProgress(scope, "Starting", 0);
     PageInitialise(scope);
     fill();
     TellProgress(scope, "Saving", 0);
-    Text saveError;
-    if (!HelpPageSaveInternal(scope, path, saveError)) {
-        error = saveError;
+    const PageSaved saved = SavePage(scope, path);
+    if (!saved.built) {
+        error = saved.error;
         return false;
     }
-    TellPageCreated(scope, path);
+    TellPageCreated(scope, path, saved);
     TellProgress(scope, "Finished", 0);
     return true;
 }
@@ -35,19 +38,19 @@ bool MakePage(const PageScope& scope, const Text& filePath, Text& error, Fill fi
 /// The head of the page and its footer.
 void FillFrame(const PageScope& scope, TextView title) {
     Text head = PageTitleBlock(scope, title);
-    for (const Text& block : {PageTextBlock(scope, scope.page.PageSubTitle, owhFontSubTitle),
-                              PageTextBlock(scope, scope.page.PageHeader, owhFontHeader)}) {
+    for (const Text& block : {PageTextBlock(scope, scope.settings.PageSubTitle, owhFontSubTitle),
+                              PageTextBlock(scope, scope.settings.PageHeader, owhFontHeader)}) {
         if (block.empty()) continue;
         if (!head.empty()) head.append(LineGap);
         head.append(block);
     }
-    scope.help.HelpPart1 = Rope(std::move(head));
-    scope.help.HelpPart3 = Rope(PageTextBlock(scope, scope.page.PageFooter, owhFontFooter));
+    scope.draft.HelpPart1 = Rope(std::move(head));
+    scope.draft.HelpPart3 = Rope(PageTextBlock(scope, scope.settings.PageFooter, owhFontFooter));
 }
 
 void FillContent(const PageScope& scope, TextView content, bool centre) {
-    scope.help.HelpPart2 = Rope(PageFontStartTag(scope, owhFontBody) + CreateParagraph(content, centre) +
-                                PageFontEndTag(scope, owhFontBody));
+    scope.draft.HelpPart2 = Rope(PageFontStartTag(scope, owhFontBody) + CreateParagraph(content, centre) +
+                                 PageFontEndTag(scope, owhFontBody));
 }
 
 Text ListOf(const ListContent& list) {
@@ -108,7 +111,7 @@ bool PageCreateList(const PageScope& scope, const Text& filePath, TextView title
 bool PageCreateSimpleBoxed2(const PageScope& scope, const Text& filePath, TextView title, TextView body,
                             const Box& box, Text& error) {
     return MakePage(scope, filePath, error,
-                    [&] { scope.help.HelpPart2 = Rope(BoxOf(scope, title, body, box)); });
+                    [&] { scope.draft.HelpPart2 = Rope(BoxOf(scope, title, body, box)); });
 }
 
 } // namespace ostrel::html

@@ -81,27 +81,27 @@ Text WriteFileCSVValue(TextView value, TextView delimiter) {
     return result;
 }
 
-bool WriteCsvFile(Context& context, const Text& title, const Text& path, const Array<Text>& names,
-                  const CsvCell& cell, Long records, Long fields, Text& error, const Text& delimiter,
-                  bool createBackup, LargeBuffer& room) {
+bool WriteCsvFile(Context& context, const Text& path, const CsvContent& content, bool createBackup,
+                  LargeBuffer& room, Text& error) {
+    const TextView delimiter = content.delimiter;
     error.clear();
-    if (records < 1)
+    if (content.records < 1)
         error = "No Records to write.";
-    else if (fields < 1)
+    else if (content.fields < 1)
         error = "No Fields to write.";
     if (!error.empty()) return false;
 
     room.Clear();
     const auto append = [&](TextView piece) { room.Append(piece); };
-    for (Long field = 1; field <= fields; ++field) {
+    for (Long field = 1; field <= content.fields; ++field) {
         if (field > 1) room.Append(delimiter);
-        if (const Text* name = names.Find(field)) SpellValue(*name, delimiter, append);
+        if (const Text* name = content.names.Find(field)) SpellValue(*name, delimiter, append);
     }
     room.Append(LineEnd);
-    for (Long record = 1; record <= records; ++record) {
-        for (Long field = 1; field <= fields; ++field) {
+    for (Long record = 1; record <= content.records; ++record) {
+        for (Long field = 1; field <= content.fields; ++field) {
             if (field > 1) room.Append(delimiter);
-            SpellValue(cell(record, field), delimiter, append);
+            SpellValue(content.cell(record, field), delimiter, append);
         }
         room.Append(LineEnd);
         if (record % RecordsPerTurn != 0) continue;
@@ -117,7 +117,7 @@ bool WriteCsvFile(Context& context, const Text& title, const Text& path, const A
     // refused below, whatever lies in the current one.
     if (!createBackup && path.find('\\') != NotFound && FileEquals(*context.platform.files, path, whole))
         return true;
-    return WriteFileFull(context, title, path, whole, error, {createBackup, false, true});
+    return WriteFileFull(context, path, whole, error, {.createBackup = createBackup});
 }
 
 } // namespace ostrel::services

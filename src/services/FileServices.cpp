@@ -193,7 +193,7 @@ Text WinTempFile(Files& files, const Text& tempTag, const Text& defaultFile) {
     return files.MakeTemporary(prefix, path) ? path : defaultFile;
 }
 
-bool WriteFileFull(Context& context, const Text& title, const Text& path, const Rope& output, Text& error,
+bool WriteFileFull(Context& context, const Text& path, const Rope& output, Text& error,
                    const WriteOptions& options) {
     Files& files = *context.platform.files;
     error.clear();
@@ -211,10 +211,10 @@ bool WriteFileFull(Context& context, const Text& title, const Text& path, const 
 
     Text backup;
     if (FileExists(files, file)) {
-        if (options.askOverwrite) {
+        if (options.askTitle) {
             const Text question = "File [" + file + "] exists.  Do you want to Overwrite?";
             // A declined question is no failure; without a screen nobody could have agreed.
-            if (context.platform.screen->Message(MessageKind::Query, question, title,
+            if (context.platform.screen->Message(MessageKind::Query, question, *options.askTitle,
                                                  MessageButtons::YesNo) != MessageAnswer::Yes)
                 return true;
         } else if (!options.overwrite) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/Context.h"
 #include "services/ServiceProperties.h"
 #include "text/Array.h"
@@ -27,13 +29,14 @@ Text WinTempFile(Files& files, const Text& tempTag, const Text& defaultFile);
 /// How the safe write treats a file that is there.
 struct WriteOptions {
     bool createBackup = false;
-    bool askOverwrite = false;
-    bool overwrite = true;
+    bool overwrite = true; ///< False fails where there is a file
+    /// Asks the user in a message box of this title, whatever `overwrite` says.
+    std::optional<Text> askTitle = {};
 };
 
 /// The safe write: the old file stands until the new one takes its place whole. True also where the user
 /// declined, with no error.
-bool WriteFileFull(Context& context, const Text& title, const Text& path, const Rope& output, Text& error,
+bool WriteFileFull(Context& context, const Text& path, const Rope& output, Text& error,
                    const WriteOptions& options);
 
 /// Whether the file holds exactly these pieces. Reads it once, in chunks, and stops at the first difference.

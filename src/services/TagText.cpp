@@ -13,6 +13,23 @@ namespace {
 
 constexpr TextView HardBlank = "&nbsp;";
 
+/// How many characters stand before the first one that is special, as a character and its follower show; the
+/// last character is followed by a blank.
+template <class Special>
+std::size_t LengthBefore(TextView text, Special special) {
+    std::size_t at = 0;
+    // Whole blocks without an exit inside them, which compilers turn into vector code.
+    constexpr std::size_t block = 32;
+    for (; at + block < text.size(); at += block) {
+        unsigned char any = 0;
+        for (std::size_t i = 0; i < block; ++i)
+            any |= static_cast<unsigned char>(special(text[at + i], text[at + i + 1]));
+        if (any) break;
+    }
+    while (at < text.size() && !special(text[at], at + 1 < text.size() ? text[at + 1] : ' ')) ++at;
+    return at;
+}
+
 /// What a tag stands for in plain text.
 struct Block {
     int breaks = 0;
@@ -81,6 +98,11 @@ void PlainText::Source(TextView text) {
             rules_.hardBlanks && text[i] == '&' && text.substr(i, HardBlank.size()) == HardBlank;
         if (!blank && !hard) {
             ++i;
+            // Words with lone blanks between them go together.
+            if (!rules_.lineBlanks)
+                i += LengthBefore(text.substr(i), [](char c, char next) {
+                    return (c == '&') | ((c == ' ') & ((next == ' ') | (next == '&')));
+                });
             continue;
         }
         Put(text.substr(start, i - start));
@@ -235,11 +257,17 @@ Text ExtractContent(TextView html, bool removeDouble, bool removeSpecials) {
 Text NormaliseSearchText(TextView text) {
     Text result;
     result.reserve(text.size());
-    for (const char c : text) {
-        if (c == '\n') continue;
-        const char kept = c == '\r' ? ' ' : c;
-        if (kept == ' ' && !result.empty() && result.back() == ' ') continue;
+    while (!text.empty()) {
+        const char kept = text[0] == '\r' ? ' ' : text[0];
+        text.remove_prefix(1);
+        if (kept == '\n' || (kept == ' ' && result.ends_with(' '))) continue;
         result += kept;
+        if (kept == ' ') continue;
+        const std::size_t run = LengthBefore(text, [](unsigned char c, unsigned char next) {
+            return (c < ' ') | ((c == ' ') & (next <= ' '));
+        });
+        result.append(text.substr(0, run));
+        text.remove_prefix(run);
     }
     return result;
 }

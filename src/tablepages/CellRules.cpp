@@ -2,8 +2,8 @@
 
 #include "html/Elements.h"
 #include "html/TableBuilder.h"
+#include "tablepages/TableTypes.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::tablepages {
 
@@ -85,11 +85,6 @@ bool CellRules::ColouredByColumn(Text& tag, Long sourceColumn) const {
 }
 
 void CellRules::ColumnColour(Text& tag, Long sourceColumn) const { ColouredByColumn(tag, sourceColumn); }
-
-bool CellRules::ColoursAlternate() const {
-    return options_.PageTableBodyPattern == owhPatternRows ||
-           options_.PageTableBodyPattern == owhPatternCheckers;
-}
 
 void CellRules::CellColour(Text& tag, Long record, Long gridColumn, Long sourceColumn) const {
     if (ColouredByColumn(tag, sourceColumn)) return;

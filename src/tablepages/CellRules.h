@@ -36,8 +36,6 @@ public:
     void CellColour(Text& tag, Long record, Long gridColumn, Long sourceColumn) const;
     /// The background of a total cell: its own or that of its column.
     void ColumnColour(Text& tag, Long sourceColumn) const;
-    /// Whether the background of body cells depends on the record being odd or even.
-    bool ColoursAlternate() const;
 
     /// What stands in front of and behind a filled cell's value.
     Text Before(bool addEdges) const;

@@ -9,11 +9,11 @@
 namespace ostrel::tablepages {
 
 CellTexts::CellTexts(const ReportFrame& frame)
-    : frame_(frame), silent_{frame.scope.page.context, silentHelp_, frame.scope.page.page,
-                             frame.scope.page.fonts, frame.scope.page.service},
+    : frame_(frame), silent_{frame.scope.pages.context, silentDraft_, frame.scope.pages.settings,
+                             frame.scope.pages.fonts, frame.scope.pages.service},
       before_(frame.rules.Before(true)), after_(frame.rules.After(true)),
       edgesVanish_(services::StripTags(before_ + "x" + after_) == "x") {
-    const Text& point = frame.scope.page.service.DecimalDelimiter;
+    const Text& point = frame.scope.pages.service.DecimalDelimiter;
     point_ = point.size() == 1 ? point[0] : '0';
     linked_.resize(static_cast<std::size_t>(frame.input.columns) + 1);
     links_.resize(linked_.size());
@@ -30,11 +30,11 @@ CellTexts::CellTexts(const ReportFrame& frame)
     }
 }
 
-TextView CellTexts::MakeLink(const html::PageScope& page, Long sourceColumn, TextView value) {
+TextView CellTexts::MakeLink(const html::PageScope& scope, Long sourceColumn, TextView value) {
     address_ = *frame_.options.PageTableColumnLink.Find(sourceColumn);
     address_.append(".").append(html::CreateAnchorName(value));
     return links_[static_cast<std::size_t>(sourceColumn)] = html::CreateLinkTitleSplit(
-               page, address_, value, frame_.options.PageTableColumnLinkTT.Get(sourceColumn), false, false,
+               scope, address_, value, frame_.options.PageTableColumnLinkTT.Get(sourceColumn), false, false,
                false);
 }
 
@@ -44,7 +44,7 @@ CellTexts::Pieces CellTexts::Data(Long sourceRow, Long sourceColumn) {
     return Filled(value) ? Pieces{before_, value, after_} : Pieces{};
 }
 
-void CellTexts::RecordText(const html::PageScope& page, Text& text, Long sourceRow) {
+void CellTexts::RecordText(const html::PageScope& scope, Text& text, Long sourceRow) {
     const TableOptions& options = frame_.options;
     number_.clear();
     AppendLong(number_, sourceRow);
@@ -64,7 +64,7 @@ void CellTexts::RecordText(const html::PageScope& page, Text& text, Long sourceR
         address_.append("_Rec_Num_").append(number_).append(".").append(recordPage_[part]);
     text = "<A NAME=\"Rec_Num_";
     text.append(number_).append("\">");
-    html::AppendLinkTitle(page, text, address_, label, options.PageTableSeparateTTTo, false, false, false);
+    html::AppendLinkTitle(scope, text, address_, label, options.PageTableSeparateTTTo, false, false, false);
 }
 
 CellTexts::Pieces CellTexts::RecordNumber(Long sourceRow, bool numbered) {
@@ -99,12 +99,12 @@ TextView CellTexts::Plain(const Pieces& pieces) {
 }
 
 void CellTexts::TestLinks(Long sourceRow, bool numbered) {
-    const html::PageScope& page = frame_.scope.page;
+    const html::PageScope& scope = frame_.scope.pages;
     for (const Long column : frame_.columns.shown) {
         if (column == 0) {
-            if (numbered && frame_.options.PageTableAddSeparate) RecordText(page, record_, sourceRow);
+            if (numbered && frame_.options.PageTableAddSeparate) RecordText(scope, record_, sourceRow);
         } else if (Linked(column)) {
-            MakeLink(page, column, frame_.input.cells.Html(sourceRow, column));
+            MakeLink(scope, column, frame_.input.cells.Html(sourceRow, column));
         }
     }
 }

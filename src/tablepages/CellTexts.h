@@ -41,18 +41,18 @@ public:
     void TestLinks(Long sourceRow, bool numbered);
 
 private:
-    TextView MakeLink(const html::PageScope& page, Long sourceColumn, TextView value);
-    void RecordText(const html::PageScope& page, Text& text, Long sourceRow);
+    TextView MakeLink(const html::PageScope& scope, Long sourceColumn, TextView value);
+    void RecordText(const html::PageScope& scope, Text& text, Long sourceRow);
 
     const ReportFrame& frame_;
-    HelpProperties silentHelp_;
+    HelpProperties silentDraft_;
     html::PageScope silent_;
     Text before_, after_;
     bool edgesVanish_;
     char point_;
     std::vector<Text> links_; // by source column, for columns with links alone
     std::vector<bool> linked_;
-    std::vector<Text> recordPage_; // the name of a record page, cut where its number goes
+    std::vector<Text> recordPage_; // the name of a record scope, cut where its number goes
     Text record_, address_, number_, joined_, plain_;
 };
 

@@ -34,8 +34,8 @@ struct Target {
 Target NamedTarget(const TableScope& scope, const HeaderLinkPlace& place, const Text& name) {
     const Text word = Lower(name);
     if (word == "excel") return {services::FileName(place.csvPath), name};
-    if (word == "top") return {"#" + scope.page.page.PageAnchorTop, name};
-    if (word == "bottom") return {"#" + scope.page.page.PageAnchorBottom, name};
+    if (word == "top") return {"#" + scope.pages.settings.PageAnchorTop, name};
+    if (word == "bottom") return {"#" + scope.pages.settings.PageAnchorBottom, name};
     if (place.navigation) {
         const SeparatePage& record = scope.separate;
         if (word == "first") return {record.first, scope.links.firstName};
@@ -52,7 +52,7 @@ Text LinkHTML(const TableScope& scope, const HeaderLinkPlace& place, const Heade
     const Target target =
         link.link.empty() ? NamedTarget(scope, place, link.name) : Target{link.link, link.name};
     if (!target.address.empty())
-        return html::CreateLinkTitle(scope.page, target.address, target.text, link.toolTip, format.bold,
+        return html::CreateLinkTitle(scope.pages, target.address, target.text, link.toolTip, format.bold,
                                      format.italic, false);
     // A greyed name holds the place of a link that leads nowhere.
     return html::CreateFontStart({}, {}, format.noLinkColour) +

@@ -1,6 +1,6 @@
 #include "tablepages/HeaderLinks.h"
 
-#include "text/Enumerations.h"
+#include "tablepages/TableTypes.h"
 
 namespace ostrel {
 

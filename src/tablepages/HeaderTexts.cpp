@@ -1,12 +1,12 @@
 #include "tablepages/HeaderTexts.h"
 
 #include "html/Elements.h"
-#include "html/PageParts.h"
+#include "html/FontType.h"
+#include "html/PageText.h"
 #include "services/Paths.h"
 #include "services/TagText.h"
 #include "tablepages/PageNames.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 #include "text/NumberText.h"
 
 namespace ostrel::tablepages {
@@ -41,9 +41,9 @@ Text RecordHeader(const ReportFrame& frame, TextView filePath, TextView toolTip,
     const Text name =
         Emphasised(options.PageTableHeaderRNName, options.PageTableHeaderBold, options.PageTableHeaderItalic)
             .append(mark);
-    return html::PageFontStartTag(frame.scope.page, owhFontTableHeader) + options.PageTableAddLeft +
-           html::CreateLinkTitle(frame.scope.page, target, name, toolTip, false, false, false) +
-           options.PageTableAddRight + html::PageFontEndTag(frame.scope.page, owhFontTableHeader);
+    return html::PageFontStartTag(frame.scope.pages, owhFontTableHeader) + options.PageTableAddLeft +
+           html::CreateLinkTitle(frame.scope.pages, target, name, toolTip, false, false, false) +
+           options.PageTableAddRight + html::PageFontEndTag(frame.scope.pages, owhFontTableHeader);
 }
 
 Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool up, TextView anchor,
@@ -62,7 +62,7 @@ Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool u
         if (cut == NotFound) line += mark;
         if (linked)
             line = html::CreateLinkTitle(
-                frame.scope.page, SortFileName(frame, filePath, column, up ? "_U" : "_D", anchor), line,
+                frame.scope.pages, SortFileName(frame, filePath, column, up ? "_U" : "_D", anchor), line,
                 up ? options.PageTableOrderUpTT : options.PageTableOrderDownTT, false, false, false);
         if (start > 0) result += "<BR>";
         result.append(options.PageTableAddLeft).append(line).append(options.PageTableAddRight);
@@ -70,8 +70,8 @@ Text HeaderText(const ReportFrame& frame, Long column, TextView filePath, bool u
     }
     result += tail;
     if (result.empty()) return result;
-    return html::PageFontStartTag(frame.scope.page, owhFontTableHeader) + result +
-           html::PageFontEndTag(frame.scope.page, owhFontTableHeader);
+    return html::PageFontStartTag(frame.scope.pages, owhFontTableHeader) + result +
+           html::PageFontEndTag(frame.scope.pages, owhFontTableHeader);
 }
 
 Text PlainName(const ReportFrame& frame, Long column) {

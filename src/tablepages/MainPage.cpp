@@ -1,13 +1,17 @@
-#include "html/PageParts.h"
+#include "html/FontType.h"
+#include "html/PageDraft.h"
+#include "html/PageProgress.h"
+#include "html/PageSave.h"
+#include "html/PageText.h"
 #include "services/Paths.h"
 #include "services/TagText.h"
 #include "tablepages/HeaderLinkRows.h"
 #include "tablepages/PageNames.h"
-#include "tablepages/ReportRun.h"
 #include "tablepages/SpaceRows.h"
+#include "tablepages/TableRun.h"
+#include "tablepages/TableTypes.h"
 #include "tablepages/TitleBlock.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::tablepages {
 
@@ -18,7 +22,7 @@ constexpr Long RecordsBetweenEvents = 100;
 /// What a page of the whole table is built with.
 class MainPage {
 public:
-    MainPage(ReportRun& run, bool reversed)
+    MainPage(TableRun& run, bool reversed)
         : run_(run), frame_(run.frame), main_(run.main.emplace(run.frame, run.totals, reversed)),
           reversed_(reversed) {}
 
@@ -32,7 +36,7 @@ private:
     void AddToTotals(Long source);
     void AddFoot();
 
-    ReportRun& run_;
+    TableRun& run_;
     const ReportFrame& frame_;
     MainTable& main_;
     bool reversed_;
@@ -44,7 +48,7 @@ void MainPage::AddLinks(GridRows& rows, Long position) {
 
 void MainPage::AddHeader(GridRows& rows, bool repeated) {
     const Text recordPath = reversed_ ? frame_.filePath : DownPagePath(frame_.filePath);
-    const Text anchor = repeated ? frame_.scope.page.page.PageAnchorBottom : Text();
+    const Text anchor = repeated ? frame_.scope.pages.settings.PageAnchorBottom : Text();
     const std::size_t row = AddHeaderRows(
         rows, frame_, {recordPath, anchor, reversed_ ? TextView(frame_.options.PageTableOrderDownMark) : ""},
         repeated ? &main_.repeatedHeader : &main_.header);
@@ -78,7 +82,7 @@ void MainPage::AddToTotals(Long source) {
 
 bool MainPage::AddRecords(Text& error) {
     const bool sums = frame_.options.PageTableTotal && !run_.totals.Columns().empty();
-    const bool tests = run_.Scope().help.TestHyperlink;
+    const bool tests = run_.Scope().draft.TestHyperlink;
     Long records = 0;
     for (Long step = 1; step <= frame_.input.rows; ++step) {
         const Long source = main_.grid.SourceOf(step);
@@ -105,7 +109,7 @@ void MainPage::AddFoot() {
         main_.foot.push_back(block.Row(run_.totals.Show(frame_, TotalKind::Grand), &recordTag));
         for (GridRow& row : block.Below()) main_.foot.push_back(std::move(row));
     }
-    frame_.Around().GiveWay();
+    frame_.context.GiveWay();
     if (!frame_.columns.header || !frame_.options.PageTableHeaderRepeat) return;
     if (frame_.options.PageTableHeaderSpace)
         AddSpaceRows(main_.foot, frame_.options, frame_.columns.Width(), owhSpaceSpace);
@@ -117,37 +121,30 @@ void MainPage::AddFoot() {
 void MainPage::Write() {
     const Long rows = main_.grid.Count();
     const bool empty = rows == 0 && main_.top.empty() && main_.foot.empty();
-    run_.page.Build(run_.Scope(), frame_.options, frame_.columns.Width(), empty,
-                    [&](html::TableWriter& table) {
-                        RecordPainter& painter = *run_.painter;
-                        painter.PaintTop(table, main_.top);
-                        Long record = 0;
-                        for (Long place = 0; place < rows; ++place) {
-                            if (main_.IsText(place)) {
-                                painter.Paint(table, main_.RowAt(place));
-                                continue;
-                            }
-                            if (main_.grid.At(place).sub <= 1) ++record;
-                            painter.Paint(table, place, place, record);
-                        }
-                        painter.Paint(table, main_.foot);
-                    });
+    run_.table.Build(run_.Scope(), frame_.options, frame_.columns.Width(), empty,
+                     [&](html::TableWriter& table) {
+                         RecordPainter& painter = *run_.painter;
+                         painter.PaintTop(table, main_.top);
+                         Long record = 0;
+                         for (Long place = 0; place < rows; ++place) {
+                             if (main_.IsText(place)) {
+                                 painter.Paint(table, main_.RowAt(place));
+                                 continue;
+                             }
+                             if (main_.grid.At(place).sub <= 1) ++record;
+                             painter.Paint(table, place, place, record);
+                         }
+                         painter.Paint(table, main_.foot);
+                     });
 }
 
 } // namespace
 
-bool SavePage(const ReportRun& run, const Text& path, Text& error) {
-    Text saveError;
-    if (html::HelpPageSaveInternal(run.Scope(), path, saveError)) return true;
-    error = saveError;
-    return false;
-}
-
-bool MakeMainPage(ReportRun& run, bool reversed, Text& error) {
+bool MakeMainPage(TableRun& run, bool reversed, Text& error) {
     ReportFrame& frame = run.frame;
     const html::PageScope& scope = run.Scope();
     const Text path = reversed ? DownPagePath(frame.filePath) : frame.filePath;
-    scope.page.CurrentCreatePage = path;
+    scope.settings.CurrentCreatePage = path;
     html::PageInitialise(scope);
     frame.align = AlignTags(frame.options);
     SetTitleBlock(scope, {"Main", frame.input.title, {}, "Record Number", !reversed, frame.headText, 0});
@@ -162,14 +159,18 @@ bool MakeMainPage(ReportRun& run, bool reversed, Text& error) {
     if (!page.Fill(error)) return false;
     html::TellProgress(scope, "Creating Table", 0);
     page.Write();
-    scope.help.HelpPart3 =
-        Rope(html::PageTextBlock(scope, scope.page.PageFooter, owhFontFooter) + frame.footText);
+    scope.draft.HelpPart3 =
+        Rope(html::PageTextBlock(scope, scope.settings.PageFooter, owhFontFooter) + frame.footText);
     if (frame.filePath.empty()) return true;
 
     html::TellProgress(scope, "Saving Page", 0);
-    if (!SavePage(run, path, error)) return false;
-    if (scope.help.NewFile) run.createAll = true;
-    html::TellPageCreated(scope, path);
+    const html::PageSaved saved = html::SavePage(scope, path);
+    if (!saved.built) {
+        error = saved.error;
+        return false;
+    }
+    if (saved.newFile) run.createAll = true;
+    html::TellPageCreated(scope, path, saved);
     return true;
 }
 

@@ -1,15 +1,16 @@
 #include "tablepages/PageCreateTable.h"
 
 #include "html/Elements.h"
-#include "html/PageParts.h"
+#include "html/PageProgress.h"
+#include "html/PageSave.h"
 #include "services/CsvText.h"
 #include "services/Paths.h"
 #include "services/TagText.h"
 #include "tablepages/HeaderTexts.h"
 #include "tablepages/PageNames.h"
-#include "tablepages/ReportRun.h"
 #include "tablepages/SeparatePages.h"
 #include "tablepages/SortPages.h"
+#include "tablepages/TableRun.h"
 #include "text/NumberText.h"
 
 namespace ostrel::tablepages {
@@ -19,7 +20,7 @@ namespace {
 bool Check(ReportFrame& frame, Text& error) {
     const TableInput& input = frame.input;
     if (!input.filePath.empty() &&
-        !html::PageFilePath(frame.scope.page, input.filePath, frame.filePath, error))
+        !html::PageFilePath(frame.scope.pages, input.filePath, frame.filePath, error))
         return false;
     if (input.rows <= 0) {
         error = "No Rows in Table";
@@ -42,11 +43,11 @@ std::vector<Long> CsvColumns(ReportFrame& frame) {
     return columns;
 }
 
-bool WriteCsv(ReportRun& run, Text& error) {
+bool WriteCsv(TableRun& run, Text& error) {
     ReportFrame& frame = run.frame;
-    const html::PageScope& page = frame.scope.page;
+    const html::PageScope& scope = frame.scope.pages;
     const TableInput& input = frame.input;
-    html::TellProgress(page, "Saving to Excel", 0);
+    html::TellProgress(scope, "Saving to Excel", 0);
     frame.csvPath = CsvPath(frame.filePath);
     const std::vector<Long> columns = CsvColumns(frame);
     const auto fields = static_cast<Long>(columns.size());
@@ -65,8 +66,8 @@ bool WriteCsv(ReportRun& run, Text& error) {
         return plain;
     };
     Text writeError;
-    if (services::WriteCsvFile(page.context, page.service.ProgramName, frame.csvPath, names, cell, input.rows,
-                               fields, writeError, ",", false, run.page.Room()))
+    const services::CsvContent content{names, input.rows, fields, cell};
+    if (services::WriteCsvFile(scope.context, frame.csvPath, content, false, run.table.Room(), writeError))
         return true;
     error = writeError;
     return false;
@@ -79,16 +80,16 @@ Text EdgeAnchor(const Text& name) {
     return flag && !*flag ? Text() : Text(LineGap) + html::CreateAnchor(name);
 }
 
-bool MakePages(ReportRun& run, Text& error) {
+bool MakePages(TableRun& run, Text& error) {
     ReportFrame& frame = run.frame;
     const TableOptions& options = frame.options;
-    const html::PageScope& page = run.Scope();
+    const html::PageScope& scope = run.Scope();
     if (options.PageTableAddExcel && !WriteCsv(run, error)) return false;
 
-    frame.footText = EdgeAnchor(page.page.PageAnchorBottom);
-    frame.headText = EdgeAnchor(page.page.PageAnchorTop);
+    frame.footText = EdgeAnchor(scope.settings.PageAnchorBottom);
+    frame.headText = EdgeAnchor(scope.settings.PageAnchorTop);
     run.createAll = options.PageTableCreateAll;
-    html::TellProgress(page, "Starting", 0);
+    html::TellProgress(scope, "Starting", 0);
 
     const bool downPage = !frame.filePath.empty() && HasDownPage(options);
     if (downPage && !MakeMainPage(run, true, error)) return false;
@@ -97,15 +98,15 @@ bool MakePages(ReportRun& run, Text& error) {
     if (!MakeSortPages(run, error)) return false;
     if (options.PageTableAddSeparate && !MakeSeparatePages(run, error)) return false;
 
-    html::TellProgress(page, "Finished", 0);
+    html::TellProgress(scope, "Finished", 0);
     return true;
 }
 
 } // namespace
 
 bool PageCreateTable(const TableScope& scope, const TableInput& input, Text& error) {
-    scope.page.context.run.StopPressed = false;
-    ReportRun run(scope, input);
+    scope.pages.context.run.StopPressed = false;
+    TableRun run(scope, input);
     if (!Check(run.frame, error)) return false;
     scope.separate = {};
     const bool made = MakePages(run, error);

@@ -1,8 +1,8 @@
 #include "tablepages/PageTable.h"
 
-#include "html/PageParts.h"
+#include "html/FontType.h"
+#include "html/PageText.h"
 #include "tablepages/TitleBlock.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::tablepages {
 
@@ -13,26 +13,26 @@ LargeBuffer& PageTable::Room() {
     return *buffer_;
 }
 
-void PageTable::Build(const html::PageScope& page, const TableOptions& options, Long columns, bool empty,
+void PageTable::Build(const html::PageScope& scope, const TableOptions& options, Long columns, bool empty,
                       const Fill& fill) {
-    page.help.HelpPart2.Clear();
+    scope.draft.HelpPart2.Clear();
     Room();
 
-    const Text font = html::PageFontStartTag(page, owhFontTable);
+    const Text font = html::PageFontStartTag(scope, owhFontTable);
     if (!empty && columns > 0) {
         html::TableLook look;
         look.spaceColumns = options.PageTableSpace;
-        look.font = font.empty() ? page.help.HelpFont : font;
+        look.font = font.empty() ? scope.draft.HelpFont : font;
         look.tableTags = TableTags(options);
         look.spaceCellHTML = options.PageTableSpaceHTML;
-        html::TableWriter table(page.context, *buffer_, columns, look);
+        html::TableWriter table(scope.context, *buffer_, columns, look);
         fill(table);
         table.End();
     }
     Rope part(font);
     part.Append(buffer_, buffer_->View());
-    part.Append(html::PageFontEndTag(page, owhFontTable));
-    page.help.HelpPart2 = std::move(part);
+    part.Append(html::PageFontEndTag(scope, owhFontTable));
+    scope.draft.HelpPart2 = std::move(part);
 }
 
 } // namespace ostrel::tablepages

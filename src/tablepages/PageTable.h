@@ -17,7 +17,7 @@ public:
 
     /// Sets the second part: the rows that `fill` writes, in the table's font. Without columns, or with
     /// `empty`, there is no table.
-    void Build(const html::PageScope& page, const TableOptions& options, Long columns, bool empty,
+    void Build(const html::PageScope& scope, const TableOptions& options, Long columns, bool empty,
                const Fill& fill);
 
     /// The buffer itself, emptied, for other text of the run that comes before a page.

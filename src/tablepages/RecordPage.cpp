@@ -1,9 +1,10 @@
 #include "tablepages/RecordPage.h"
 
 #include "html/Elements.h"
-#include "html/PageParts.h"
+#include "html/FontType.h"
+#include "html/PageText.h"
 #include "tablepages/HeaderLinkRows.h"
-#include "text/Enumerations.h"
+#include "tablepages/TableTypes.h"
 
 namespace ostrel::tablepages {
 
@@ -29,7 +30,7 @@ void RecordPage::Block::Write(html::TableWriter& table) const {
     for (const auto& cells : cells_) table.Row(cells);
 }
 
-RecordPage::RecordPage(ReportRun& run, const Array<Text>& names)
+RecordPage::RecordPage(TableRun& run, const Array<Text>& names)
     : run_(run), options_(run.frame.options), before_(run.frame.rules.Before(true)),
       after_(run.frame.rules.After(true)) {
     const TextView colour = options_.PageTableHeaderBGColor;
@@ -79,16 +80,16 @@ void RecordPage::SetLinks(Block& block, Long position) {
 }
 
 void RecordPage::SetHeader(TextView nameAddress, TextView valueAddress) {
-    const html::PageScope& page = run_.Scope();
+    const html::PageScope& scope = run_.Scope();
     const AlignTags& align = run_.frame.align;
     const CellRules::Placement placement{false, align.headerAlign, align.headerVAlign, false};
     const bool bold = options_.PageTableHeaderBold, italic = options_.PageTableHeaderItalic;
     GridRows rows(1, GridRow(Columns));
     const auto set = [&](Long column, TextView name, TextView address) {
         Text text = html::CreateString(name, bold, italic);
-        if (!address.empty()) text = html::CreateLink(page, address, text, false, false, false);
-        text = html::PageFontStartTag(page, owhFontTableHeader) + options_.PageTableAddLeft + text +
-               options_.PageTableAddRight + html::PageFontEndTag(page, owhFontTableHeader);
+        if (!address.empty()) text = html::CreateLink(scope, address, text, false, false, false);
+        text = html::PageFontStartTag(scope, owhFontTableHeader) + options_.PageTableAddLeft + text +
+               options_.PageTableAddRight + html::PageFontEndTag(scope, owhFontTableHeader);
         GridCell& cell = *rows.front().Find(column);
         run_.frame.rules.SetCell(text, cell.text, cell.tag, placement);
         if (!options_.PageTableHeaderBGColor.empty())
@@ -133,7 +134,7 @@ void RecordPage::Build(TextView nameAddress, TextView valueAddress, const Array<
         WriteFields(table, values, pointers);
         belowFields_.Write(table);
     };
-    run_.page.Build(run_.Scope(), options_, Columns, false, std::ref(fill));
+    run_.table.Build(run_.Scope(), options_, Columns, false, std::ref(fill));
 }
 
 } // namespace ostrel::tablepages

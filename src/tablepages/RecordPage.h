@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tablepages/ReportRun.h"
 #include "tablepages/SpaceRows.h"
+#include "tablepages/TableRun.h"
 
 namespace ostrel::tablepages {
 
@@ -9,7 +9,7 @@ namespace ostrel::tablepages {
 /// out once, as there may be hundreds of thousands of them.
 class RecordPage {
 public:
-    RecordPage(ReportRun& run, const Array<Text>& names);
+    RecordPage(TableRun& run, const Array<Text>& names);
 
     /// Whether the page has a field of that column.
     bool Holds(Long column) const {
@@ -41,7 +41,7 @@ private:
     Tags FieldTags(bool filled, Long column);
     void WriteFields(html::TableWriter& table, const Array<Text>& values, const Array<Long>& pointers) const;
 
-    ReportRun& run_;
+    TableRun& run_;
     const TableOptions& options_;
     html::TagTable tags_;
     Long linkColumns_ = 0; // the first page of a run does not know its columns yet

@@ -9,8 +9,8 @@ const Text& ReportFrame::Name(Long column) const {
 }
 
 bool Interrupted(const ReportFrame& frame, Text& error) {
-    frame.Around().GiveWay();
-    if (!frame.Around().run.Pressed()) return false;
+    frame.context.GiveWay();
+    if (!frame.context.run.Pressed()) return false;
     error = "Interrupted by User";
     return true;
 }

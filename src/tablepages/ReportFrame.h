@@ -7,10 +7,11 @@ namespace ostrel::tablepages {
 /// What all pages of one report are made from.
 struct ReportFrame {
     ReportFrame(const TableScope& tableScope, const TableInput& tableInput)
-        : scope(tableScope), input(tableInput), rules(scope.options, scope.page.service.DecimalDelimiter),
+        : scope(tableScope), input(tableInput), rules(scope.options, scope.pages.service.DecimalDelimiter),
           align(scope.options) {}
 
     const TableScope scope;
+    Context& context = scope.pages.context;
     const TableInput& input;
     const TableOptions& options = scope.options;
     CellRules rules;
@@ -21,7 +22,6 @@ struct ReportFrame {
     Text headText; ///< the anchor at the head of each page
     Text footText; ///< the anchor at the foot of each page
 
-    Context& Around() const { return scope.page.context; }
     /// The name of a column as the host gave it.
     const Text& Name(Long column) const;
 };

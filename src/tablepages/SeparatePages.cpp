@@ -1,11 +1,14 @@
 #include "tablepages/SeparatePages.h"
 
 #include <algorithm>
-#include <limits>
 #include <numeric>
 
 #include "html/Elements.h"
-#include "html/PageParts.h"
+#include "html/FontType.h"
+#include "html/PageDraft.h"
+#include "html/PageProgress.h"
+#include "html/PageSave.h"
+#include "html/PageText.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
 #include "services/Sorting.h"
@@ -13,7 +16,6 @@
 #include "tablepages/RecordPage.h"
 #include "tablepages/TitleBlock.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 #include "text/NumberText.h"
 
 namespace ostrel::tablepages {
@@ -30,8 +32,8 @@ Text WithoutBlanks(Text text) {
 
 class SeparatePages {
 public:
-    explicit SeparatePages(ReportRun& run)
-        : run_(run), frame_(run.frame), options_(run.frame.options), page_(run.Scope()),
+    explicit SeparatePages(TableRun& run)
+        : run_(run), frame_(run.frame), options_(run.frame.options), scope_(run.Scope()),
           paths_(run.frame.filePath), files_(services::FileName(run.frame.filePath)) {}
 
     bool Make(Text& error);
@@ -40,17 +42,16 @@ private:
     void Offer();
     Long HeaderField() const;
     void TakeRecord(Long record);
-    bool MakeVariant(Long record, RecordVariant::Number number, Text& error);
-    void TellOldPage(const Text& path) const;
+    html::PageSaved MakeVariant(Long record, RecordVariant::Number number);
 
     void Sort(const RecordVariant& variant);
     Text SubHeader(Long record) const;
     Text Navigation(Long record) const;
 
-    ReportRun& run_;
+    TableRun& run_;
     const ReportFrame& frame_;
     const TableOptions& options_;
-    const html::PageScope& page_;
+    const html::PageScope& scope_;
     RecordNames paths_, files_;
 
     // The table as the host left it.
@@ -69,7 +70,7 @@ void SeparatePages::Offer() {
     const TableInput& input = frame_.input;
     names_ = input.names;
     cells_ = input.cells;
-    auto& offer = page_.context.events.PageCreateTableSeparate;
+    auto& offer = scope_.context.events.PageCreateTableSeparate;
     if (!offer.Heard()) return;
     Long rows = input.rows, columns = input.columns;
     changed_.Resize(rows, columns);
@@ -97,19 +98,11 @@ void SeparatePages::TakeRecord(Long record) {
     separate.values = values_;
 }
 
-void SeparatePages::TellOldPage(const Text& path) const {
-    std::uint64_t size = 0;
-    page_.context.platform.files->Size(path, size);
-    constexpr std::uint64_t most = std::numeric_limits<Long>::max();
-    page_.context.events.PageCreated.Tell(path);
-    page_.context.events.PageCreated2.Tell(path, false, false, static_cast<Long>(std::min(size, most)));
-}
-
 void SeparatePages::Sort(const RecordVariant& variant) {
     pointers_.Resize(frame_.input.columns);
     std::iota(pointers_.begin(), pointers_.end(), 1);
     if (variant.SortsNames() || variant.SortsValues())
-        services::SortText(page_.context, variant.SortsNames() ? names_ : values_, pointers_,
+        services::SortText(scope_.context, variant.SortsNames() ? names_ : values_, pointers_,
                            frame_.input.columns, variant.up);
 }
 
@@ -125,7 +118,7 @@ Text SeparatePages::Navigation(Long record) const {
     SeparatePage& separate = frame_.scope.separate;
     Text navigation;
     const auto link = [&](const Text& address, const Text& name) {
-        navigation += address.empty() ? name : html::CreateLink(page_, address, name, true, false, false);
+        navigation += address.empty() ? name : html::CreateLink(scope_, address, name, true, false, false);
     };
     const long long place = static_cast<long long>(record) - options_.PageTableSeparateRecordOffset;
     separate.all = services::FileName(frame_.filePath);
@@ -148,33 +141,34 @@ Text SeparatePages::Navigation(Long record) const {
     return navigation;
 }
 
-bool SeparatePages::MakeVariant(Long record, RecordVariant::Number number, Text& error) {
+html::PageSaved SeparatePages::MakeVariant(Long record, RecordVariant::Number number) {
     const RecordVariant& variant = RecordVariants[number];
     const Text path = paths_.Of(record, number);
     Sort(variant);
-    html::PageInitialise(page_);
+    html::PageInitialise(scope_);
 
     Text subHeader = SubHeader(record);
     Text navigation = Navigation(record);
     Long pageNumber = record, pages = frame_.input.rows;
     Text sortBy(variant.sortBy);
     Flag up = variant.up;
-    page_.context.events.PageCreateTableSeparatePage(pageNumber, pages, subHeader, navigation, sortBy, up);
+    scope_.context.events.PageCreateTableSeparatePage(pageNumber, pages, subHeader, navigation, sortBy, up);
     if (options_.PageTableSeparateHeaderNav)
         subHeader.append("</P>").append(LineGap).append("<P>").append(navigation);
-    SetTitleBlock(page_, {"Separate", frame_.input.title, subHeader, variant.sortBy, variant.up, {}, record});
+    SetTitleBlock(scope_,
+                  {"Separate", frame_.input.title, subHeader, variant.sortBy, variant.up, {}, record});
 
     const auto address = [&](bool linked, RecordVariant::Number to) {
         return linked ? files_.Of(record, to) : Text();
     };
     table_->Build(address(options_.PageTableSeparateSortName, variant.nameLeadsTo),
                   address(options_.PageTableSeparateSortValue, variant.valueLeadsTo), values_, pointers_);
-    page_.help.HelpPart3 = Rope(html::PageTextBlock(page_, page_.page.PageFooter, owhFontFooter));
-    return SavePage(run_, path, error);
+    scope_.draft.HelpPart3 = Rope(html::PageTextBlock(scope_, scope_.settings.PageFooter, owhFontFooter));
+    return html::SavePage(scope_, path);
 }
 
 bool SeparatePages::Make(Text& error) {
-    html::TellProgress(page_, "Starting Separate Pages", 0);
+    html::TellProgress(scope_, "Starting Separate Pages", 0);
     Offer();
     table_.emplace(run_, names_);
     headerField_ = HeaderField();
@@ -185,20 +179,24 @@ bool SeparatePages::Make(Text& error) {
         for (std::size_t i = 0; i < RecordVariants.size(); ++i) {
             const auto number = static_cast<RecordVariant::Number>(i);
             const Text path = paths_.Of(record, number);
-            page_.page.CurrentCreatePage = path;
+            scope_.settings.CurrentCreatePage = path;
             if (!RecordVariants[i].Wanted(options_)) continue;
-            if (i > 0 && !createAll && services::FileExists(*page_.context.platform.files, path)) {
-                TellOldPage(path);
+            if (i > 0 && !createAll && services::FileExists(*scope_.context.platform.files, path)) {
+                html::TellPageKept(scope_, path);
                 continue;
             }
-            if (!MakeVariant(record, number, error)) return false;
-            if (i == 0 && page_.help.NewFile) createAll = true;
-            html::TellPageCreated(page_, path);
-            page_.context.GiveWay();
+            const html::PageSaved saved = MakeVariant(record, number);
+            if (!saved.built) {
+                error = saved.error;
+                return false;
+            }
+            if (i == 0 && saved.newFile) createAll = true;
+            html::TellPageCreated(scope_, path, saved);
+            scope_.context.GiveWay();
         }
         if (record % RecordsBetweenEvents != 0) continue;
-        html::TellProgress(page_, "Saving Separate Pages", record);
-        if (page_.context.run.Pressed()) {
+        html::TellProgress(scope_, "Saving Separate Pages", record);
+        if (scope_.context.run.Pressed()) {
             error = "Interrupted by User";
             return false;
         }
@@ -208,6 +206,6 @@ bool SeparatePages::Make(Text& error) {
 
 } // namespace
 
-bool MakeSeparatePages(ReportRun& run, Text& error) { return SeparatePages(run).Make(error); }
+bool MakeSeparatePages(TableRun& run, Text& error) { return SeparatePages(run).Make(error); }
 
 } // namespace ostrel::tablepages

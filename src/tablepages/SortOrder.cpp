@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-#include "html/PageParts.h"
+#include "html/PageProgress.h"
 #include "services/TagText.h"
 #include "text/CodePage.h"
 #include "text/DateText.h"
@@ -43,7 +43,7 @@ SortColumn::SortColumn(const TableOptions& options, Long sourceColumn, Long grid
 }
 
 bool SortOrder::Heard() const {
-    Events& events = run_.frame.Around().events;
+    Events& events = run_.frame.context.events;
     return IsExternal(column_.type) && (events.SortExternal.Heard() || events.SortExternalFull.Heard());
 }
 
@@ -122,7 +122,7 @@ void SortOrder::PrefetchAround(Long position) const {
 }
 
 bool SortOrder::SortedByHost(bool up) {
-    Events& events = run_.frame.Around().events;
+    Events& events = run_.frame.context.events;
     if (!Heard()) return false;
     Array<Long> pointers{std::vector<Long>(pointers_.begin(), pointers_.end())};
     Flag sorted;
@@ -145,7 +145,7 @@ bool SortOrder::SortedByHost(bool up) {
 }
 
 void SortOrder::Sort(bool up) {
-    Context& context = run_.frame.Around();
+    Context& context = run_.frame.context;
     html::TellProgress(run_.Scope(), NameOf(column_.type), 0);
     if (IsExternal(column_.type) && SortedByHost(up)) return;
     if (!up && sortedUp_ && !Heard()) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "services/SortKeys.h"
-#include "tablepages/ReportRun.h"
+#include "tablepages/TableRun.h"
 
 namespace ostrel::tablepages {
 
@@ -22,7 +22,7 @@ struct SortColumn {
 /// order; turning the order round needs none.
 class SortOrder {
 public:
-    SortOrder(ReportRun& run, const SortColumn& column) : run_(run), column_(column) {}
+    SortOrder(TableRun& run, const SortColumn& column) : run_(run), column_(column) {}
 
     /// Reads the keys.
     void Collect();
@@ -48,7 +48,7 @@ private:
     bool SortedByHost(bool up);
     bool Heard() const;
 
-    ReportRun& run_;
+    TableRun& run_;
     const SortColumn& column_;
     services::SortKeys keys_;
     Array<Text> texts_; ///< the keys as the host gets them

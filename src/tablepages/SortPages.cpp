@@ -1,10 +1,10 @@
 #include "tablepages/SortPages.h"
 
-#include <limits>
 #include <utility>
 
 #include "html/Elements.h"
-#include "html/PageParts.h"
+#include "html/PageProgress.h"
+#include "html/PageSave.h"
 #include "services/FileServices.h"
 #include "services/Paths.h"
 #include "services/TagText.h"
@@ -13,9 +13,9 @@
 #include "tablepages/PageNames.h"
 #include "tablepages/SortOrder.h"
 #include "tablepages/SpaceRows.h"
+#include "tablepages/TableTypes.h"
 #include "tablepages/TitleBlock.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 #include "text/NumberText.h"
 
 namespace ostrel::tablepages {
@@ -27,7 +27,7 @@ constexpr Long LastColumn = 100;
 /// The two pages sorted on one column.
 class SortPages {
 public:
-    SortPages(ReportRun& run, const SortColumn& column)
+    SortPages(TableRun& run, const SortColumn& column)
         : run_(run), frame_(run.frame), main_(*run.main), painter_(*run.painter), column_(column),
           order_(run, column), subTotal_(frame_, run.totals, TotalKind::Sort),
           name_(PlainName(frame_, column.source)),
@@ -39,7 +39,6 @@ private:
     void PutRecordHeader(bool up);
     void PutHeader(GridRow& row, const HeaderVariants& variants, bool up, TextView anchor) const;
     void TakeTop();
-    void TellUnchanged(const Text& path) const;
 
     void AddUp();
     void AddToTotals(Long place, Long first);
@@ -53,7 +52,7 @@ private:
     void Expose();
     CellTexts::Pieces CellText(Long place, Long first, Long gridColumn);
 
-    ReportRun& run_;
+    TableRun& run_;
     const ReportFrame& frame_;
     MainTable& main_;
     RecordPainter& painter_;
@@ -99,17 +98,6 @@ void SortPages::PutHeader(GridRow& row, const HeaderVariants& variants, bool up,
 void SortPages::TakeTop() {
     top_ = main_.top;
     order_.Collect();
-}
-
-void SortPages::TellUnchanged(const Text& path) const {
-    Events& events = frame_.Around().events;
-    events.StatusTextChange.Tell("Quick");
-    events.PageCreated.Tell(path);
-    if (!events.PageCreated2.Heard()) return;
-    std::uint64_t size = 0;
-    frame_.Around().platform.files->Size(path, size);
-    constexpr std::uint64_t most = std::numeric_limits<Long>::max();
-    events.PageCreated2.Tell(path, false, false, static_cast<Long>(std::min(size, most)));
 }
 
 /// Puts an anchor at the first row of each value.
@@ -215,9 +203,10 @@ void SortPages::AddFoot(bool up) {
         AddHeaderLinkRows(foot_, frame_.scope, {position, frame_.columns.Width(), frame_.csvPath, false});
     };
     links(3);
-    const std::size_t row = AddHeaderRows(
-        foot_, frame_, {DownPagePath(frame_.filePath), frame_.scope.page.page.PageAnchorBottom}, nullptr);
-    PutHeader(foot_[row], main_.repeatedHeader, up, frame_.scope.page.page.PageAnchorBottom);
+    const std::size_t row =
+        AddHeaderRows(foot_, frame_,
+                      {DownPagePath(frame_.filePath), frame_.scope.pages.settings.PageAnchorBottom}, nullptr);
+    PutHeader(foot_[row], main_.repeatedHeader, up, frame_.scope.pages.settings.PageAnchorBottom);
     links(4);
 }
 
@@ -251,12 +240,12 @@ void SortPages::WriteRows(html::TableWriter& table) {
 
 void SortPages::Write() {
     const bool empty = order_.Count() == 0 && top_.empty() && foot_.empty();
-    run_.page.Build(run_.Scope(), frame_.options, frame_.columns.Width(), empty,
-                    [&](html::TableWriter& table) {
-                        painter_.PaintTop(table, top_);
-                        WriteRows(table);
-                        painter_.Paint(table, foot_);
-                    });
+    run_.table.Build(run_.Scope(), frame_.options, frame_.columns.Width(), empty,
+                     [&](html::TableWriter& table) {
+                         painter_.PaintTop(table, top_);
+                         WriteRows(table);
+                         painter_.Paint(table, foot_);
+                     });
 }
 
 bool SortPages::Make(bool up, Text& error) {
@@ -265,11 +254,12 @@ bool SortPages::Make(bool up, Text& error) {
     const Text file = SortFileName(frame_, frame_.filePath, column_.source, up ? "_U" : "_D", {});
     const Text path = services::BuildPath(services::FileDirectory(frame_.filePath), file);
     if (!run_.createAll && services::FileExists(*scope.context.platform.files, path)) {
-        TellUnchanged(path);
+        scope.context.events.StatusTextChange.Tell("Quick");
+        html::TellPageKept(scope, path);
         return true;
     }
     html::TellProgress(scope, (up ? "Sorting Up - " : "Sorting Down - ") + name_, 0);
-    scope.page.CurrentCreatePage = path;
+    scope.settings.CurrentCreatePage = path;
     SetTitleBlock(scope, {"Sort", frame_.input.title, {}, name_, up, frame_.headText, 0});
     // The down page counts on the up page to have read the keys.
     if (up)
@@ -289,10 +279,14 @@ bool SortPages::Make(bool up, Text& error) {
     scope.context.GiveWay();
     Write();
     html::TellProgress(scope, "Saving Page - " + name_, 0);
-    if (!SavePage(run_, path, error)) return false;
+    const html::PageSaved saved = html::SavePage(scope, path);
+    if (!saved.built) {
+        error = saved.error;
+        return false;
+    }
     painter_.EndExposing();
     scope.context.events.StatusTextChange.Tell("Slow");
-    html::TellPageCreated(scope, path);
+    html::TellPageCreated(scope, path, saved);
     return true;
 }
 
@@ -304,7 +298,7 @@ bool AnySort(const TableOptions& options) {
 
 } // namespace
 
-bool MakeSortPages(ReportRun& run, Text& error) {
+bool MakeSortPages(TableRun& run, Text& error) {
     const ReportFrame& frame = run.frame;
     if (!AnySort(frame.options)) return true;
     html::TellProgress(run.Scope(), "Setting up Sort", 0);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "tablepages/ReportRun.h"
+#include "tablepages/TableRun.h"
 
 namespace ostrel::tablepages {
 
 /// Makes the two sorted pages of each column that has them. It takes its rows from the main page.
-bool MakeSortPages(ReportRun& run, Text& error);
+bool MakeSortPages(TableRun& run, Text& error);
 
 } // namespace ostrel::tablepages

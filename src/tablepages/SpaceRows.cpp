@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "html/Elements.h"
-#include "text/Enumerations.h"
+#include "tablepages/TableTypes.h"
 #include "text/NumberText.h"
 
 namespace ostrel::tablepages {

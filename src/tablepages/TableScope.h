@@ -10,7 +10,7 @@ namespace ostrel::tablepages {
 
 /// What the report engine reaches beside its input.
 struct TableScope {
-    html::PageScope page;
+    html::PageScope pages;
     const TableOptions& options;
     const HeaderLinks& links;
     SeparatePage& separate;

@@ -1,28 +1,28 @@
 #include "tablepages/TitleBlock.h"
 
 #include "html/Elements.h"
-#include "html/PageParts.h"
-#include "text/Enumerations.h"
+#include "html/FontType.h"
+#include "html/PageText.h"
 #include "text/NumberText.h"
 
 namespace ostrel::tablepages {
 
-void SetTitleBlock(const html::PageScope& page, const TitleText& text) {
+void SetTitleBlock(const html::PageScope& scope, const TitleText& text) {
     Text type(text.type), title(text.title), body(text.body), sortBy(text.sortBy);
     Flag sortUp = text.sortUp;
     Long record = text.record;
-    page.context.events.PageCreateTableTitle(type, title, body, sortBy, sortUp, record);
+    scope.context.events.PageCreateTableTitle(type, title, body, sortBy, sortUp, record);
 
-    Text part = Text(text.prefix) + html::PageTitleBlock(page, title);
+    Text part = Text(text.prefix) + html::PageTitleBlock(scope, title);
     const auto add = [&part](const Text& block) {
         if (block.empty()) return;
         if (!part.empty()) part += LineGap;
         part += block;
     };
-    add(html::PageTextBlock(page, page.page.PageSubTitle, owhFontSubTitle));
-    add(html::PageTextBlock(page, page.page.PageHeader, owhFontHeader));
-    add(html::PageTextBlock(page, body, owhFontBody));
-    page.help.HelpPart1 = Rope(std::move(part));
+    add(html::PageTextBlock(scope, scope.settings.PageSubTitle, owhFontSubTitle));
+    add(html::PageTextBlock(scope, scope.settings.PageHeader, owhFontHeader));
+    add(html::PageTextBlock(scope, body, owhFontBody));
+    scope.draft.HelpPart1 = Rope(std::move(part));
 }
 
 Text TableTags(const TableOptions& options) {

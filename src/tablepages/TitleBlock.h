@@ -17,7 +17,7 @@ struct TitleText {
 };
 
 /// Sets the first part of a table page; the host may change title and body.
-void SetTitleBlock(const html::PageScope& page, const TitleText& text);
+void SetTitleBlock(const html::PageScope& scope, const TitleText& text);
 
 /// The attributes of the TABLE tag; empty for the builder's own.
 Text TableTags(const TableOptions& options);

@@ -10,7 +10,7 @@ namespace {
 
 /// The most decimal places of any number in the column, or -1 without a number.
 Long DecimalPlaces(const ReportFrame& frame, Long column) {
-    const Text& delimiter = frame.scope.page.service.DecimalDelimiter;
+    const Text& delimiter = frame.scope.pages.service.DecimalDelimiter;
     Long places = -1;
     Text stripped;
     for (Long row = 1; row <= frame.input.rows; ++row) {

@@ -80,7 +80,7 @@ std::vector<Text> Totals::Show(const ReportFrame& frame, TotalKind kind) {
         else
             text =
                 FormatNumber(SumOf(kind, column.number, column.numberBase, column.numberSort), column.format);
-        auto& event = frame.Around().events.PageCreateTableTotalFormat;
+        auto& event = frame.context.events.PageCreateTableTotalFormat;
         if (!event.Heard()) continue;
         Long source = column.source;
         Text name = frame.Name(source);

@@ -40,7 +40,7 @@ private:
     int handle_ = -1;
 };
 
-/// Bytes in memory, for what is small and for tests. `step` bounds what one read gives.
+/// Bytes in memory, for small inputs and tests. One read returns at most `step` bytes.
 class MemorySource final : public ByteSource {
 public:
     explicit MemorySource(std::string_view bytes, std::size_t step = 1 << 20) : bytes_(bytes), step_(step) {}

@@ -9,7 +9,7 @@
 namespace ostrel::tables {
 
 /// The cells of a table, each held once, in the order in which they come. A value is appended in pieces and
-/// ended; where its HTML differs, that goes directly behind it. Nothing moves once it is ended.
+/// ended; its HTML, where it differs, is stored directly behind it. Nothing moves once it is ended.
 class CellStore {
 public:
     explicit CellStore(Markup markup = Markup::Escape) : markup_(markup) {}

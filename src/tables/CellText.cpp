@@ -25,7 +25,7 @@ void AppendReference(Text& output, char32_t scalar) {
     output += ';';
 }
 
-/// Decodes into `plain`; in `html` goes the same with what HTML needs for it.
+/// Decodes into `plain`, and the same encoded as HTML into `html`.
 class CellEncoder {
 public:
     CellEncoder(Text& plain, Text& html) : plain_(plain), html_(html) {}
@@ -128,7 +128,7 @@ TextEncoding GuessEncoding(std::string_view bytes) {
         }
         if (NextScalar(bytes, i))
             ++balance;
-        else if (bytes.size() - i >= 3) // a sequence cut off by the end of the bytes says nothing
+        else if (bytes.size() - i >= 3) // a sequence cut off at the end is inconclusive
             --balance;
     }
     return balance > 0 ? TextEncoding::Utf8 : TextEncoding::Windows1252;

@@ -15,10 +15,10 @@ enum class TextEncoding { Unknown, Utf8, Windows1252 };
 /// sequences outnumber what is none.
 TextEncoding GuessEncoding(std::string_view bytes);
 
-/// What a value is: text that a browser shall show as it stands, or HTML.
+/// Whether a value is plain text, to be shown literally, or HTML.
 enum class Markup { Escape, Html };
 
-/// What stands in a value, gathered while it is scanned: a value with none of these is its own HTML.
+/// The special characters of a value, collected while it is scanned. A value without any is its own HTML.
 enum CellTrait : std::uint8_t {
     TraitNone = 0,
     TraitMarkup = 1, ///< a character that HTML keeps for itself

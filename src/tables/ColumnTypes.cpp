@@ -37,7 +37,7 @@ bool HasShape(TextView value, TextView shape) {
 int TwoDigits(TextView value, std::size_t at) { return (value[at] - '0') * 10 + (value[at + 1] - '0'); }
 
 bool IsDate(TextView value) {
-    // The shape of nearly all dates in files is worth a way of its own.
+    // Fast path for the most common date format in files.
     if (HasShape(value, "0000-00-00") && TwoDigits(value, 8) >= 1 && TwoDigits(value, 8) <= 28) {
         const int month = TwoDigits(value, 5);
         return month >= 1 && month <= 12;

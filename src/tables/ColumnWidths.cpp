@@ -24,7 +24,7 @@ constexpr double OneLinePart = 0.95;
 constexpr double Modest = 32, Widest = 60;
 /// Texts up to this width take one line even in a narrow window.
 constexpr double Narrow = 12;
-/// The width that wide columns are narrowed to make a table fit, with what stands between the columns.
+/// The width to which a table is fitted by narrowing wide columns, including the space between columns.
 constexpr double PageWidth = 150, Padding = 3;
 /// Bold text is wider than plain text, and fonts differ.
 constexpr double BoldFactor = 1.2, FontFactor = 1.05;
@@ -168,7 +168,7 @@ void Fit(std::vector<Width>& widths) {
     }
 }
 
-/// A width that was set for a column, as style sheets have it; empty where it is none that they know.
+/// Returns a width set for a column in CSS, or an empty text if CSS has no such unit.
 Text GivenWidth(const Text& width) {
     const Text plain(TrimBlanks(width));
     const bool percent = plain.ends_with('%');
@@ -205,7 +205,7 @@ bool IsInline(TextView tag) {
            std::any_of(names.begin(), names.end(), [&](TextView known) { return EqualText(known, name); });
 }
 
-/// Whether any cell holds a picture, a table or the like, whose width nobody knows before it is laid out.
+/// Whether any cell holds a picture, a table or the like, whose width is unknown before layout.
 bool HoldsBoxes(const InputTable& table) {
     const std::span cells(table.cells.Cells(), table.cells.Count());
     return std::any_of(cells.begin(), cells.end(), [](const PackedCell& cell) {

@@ -8,13 +8,13 @@
 namespace ostrel::tables {
 
 /// How the columns of a page are laid out without looking at its cells: each has a fixed width, so that a
-/// browser can skip the rows that are not on view.
+/// browser can skip the rows that are not visible.
 struct TableLayout {
     /// Widths of the text, in widths of a digit.
     struct Column {
         double wanted = 0; ///< where the window has room
         double least = 0;  ///< in a narrow window
-        Text given;        ///< the width that was set for it, as style sheets have it; empty for none
+        Text given;        ///< the width set by the user, in CSS; may be empty
 
         bool Narrows() const { return given.empty() && least < wanted; }
     };
@@ -28,8 +28,9 @@ struct TableLayout {
 };
 
 /// Works out widths at which most cells take one line, from a sample of the rows. A width that the host has
-/// set for a column wins. `web` holds all options of the report. Without columns where the widths cannot be
-/// told: a table with spaces between its columns, or cells of HTML that hold pictures, tables and the like.
+/// set for a column wins. `web` holds all options of the report. Has no columns if the widths cannot be
+/// determined: a table with spaces between its columns, or cells of HTML that hold pictures, tables and the
+/// like.
 TableLayout LayOutTable(const InputTable& table, const OstrelWebHelp& web);
 
 } // namespace ostrel::tables

@@ -24,7 +24,7 @@ CsvReader::CsvReader(ByteSource& source, CsvFormat format, CellStore& cells, std
 }
 
 void CsvReader::Begin() {
-    // A pipe may give its first bytes one by one; the marks and the delimiter want more.
+    // A pipe may deliver its first bytes one by one; the byte order mark and the delimiter need more.
     std::size_t size = 0;
     while (size < chunk_) {
         const std::size_t count = source_.Read(buffer_.get() + size, chunk_ - size);
@@ -130,7 +130,7 @@ CsvReader::End CsvReader::ReadValue() {
     }
 }
 
-/// Reads up to the closing quote, which goes too.
+/// Reads up to and including the closing quote.
 void CsvReader::ReadQuoted(unsigned& traits) {
     const std::size_t opened = line_;
     bool afterReturn = false;
@@ -172,7 +172,7 @@ void CsvReader::EndCell(unsigned traits) {
 
 void CsvReader::SettleEncoding() {
     if (format_.encoding != TextEncoding::Unknown) return;
-    // The value in hand and what of the chunk follows: enough to tell, and no second reading.
+    // Look at this value and the rest of the chunk only, so that nothing is read twice.
     std::string sample(cells_.Pending());
     sample.append(at_, end_);
     format_.encoding = GuessEncoding(sample);

@@ -21,7 +21,7 @@ struct CsvFormat {
 /// to the value.
 ///
 /// A reader of our own: it finds markup, blanks and bytes outside ASCII in the same scan that finds the ends
-/// of the values, puts each value at its final place at once and knows the line that it is on. The library at
+/// of the values, stores each value at its final place and knows its line number. The library at
 /// hand hands out each value from a buffer of its own, byte by byte, at twice the time; the tests hold the
 /// two against each other.
 class CsvReader {
@@ -32,8 +32,8 @@ public:
     /// Reads `chunk` bytes at a time. Throws `InputError` where the input is empty or UTF-16.
     CsvReader(ByteSource& source, CsvFormat format, CellStore& cells, std::size_t chunk = 1 << 20);
 
-    /// Reads one record; its cells are the last of the store. False at the end of the input. `count` tells
-    /// how many. Throws `InputError`.
+    /// Reads one record; its cells are the last of the store. Returns false at the end of the input. `count`
+    /// receives how many. Throws `InputError`.
     bool ReadRecord(std::size_t& count);
 
     /// The line, from 1, on which the record read last begins.
@@ -64,7 +64,7 @@ private:
     std::size_t chunk_;
     std::unique_ptr<char[]> buffer_;
     const char* at_ = nullptr;
-    const char* end_ = nullptr; ///< a NUL stands there, which stops every scan
+    const char* end_ = nullptr; ///< points to a NUL, which stops every scan
     bool lineFeedDue_ = false;  ///< behind a CR: an LF there belongs to it
     std::size_t line_ = 1;
     std::size_t recordLine_ = 1;

@@ -13,8 +13,8 @@ struct InputError : std::runtime_error {
 /// The host wanted the reading to end.
 struct Interruption {};
 
-/// Whether the host wants the reading to end. Called again and again while an input is read; must not throw.
-/// True ends the reading with an `Interruption`.
+/// Returns whether the host wants the reading to end. Called repeatedly while an input is read; must not
+/// throw. True ends the reading with an `Interruption`.
 using StopWanted = std::function<bool()>;
 
 } // namespace ostrel::tables

@@ -16,7 +16,7 @@ inline constexpr Long ColumnReach = 100;
 struct InputTable {
     explicit InputTable(Markup markup) : cells(markup) {}
 
-    std::string place;          ///< where the names stand, for messages
+    std::string place;          ///< location of the names, for messages
     std::vector<Text> names;    ///< plain
     std::vector<Text> nameHtml; ///< the same as a browser shows them
     std::vector<ColumnType> types;

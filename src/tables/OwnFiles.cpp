@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t FilesBetweenYields = 256;
 
-/// Whether the head of a file says that the component has made it.
+/// Whether a file was made by the component, by the generator in its head.
 bool IsGenerated(const std::string& path) {
     constexpr std::size_t longestHead = 256 << 10;
     std::ifstream file(path, std::ios::binary);

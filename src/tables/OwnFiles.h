@@ -11,7 +11,7 @@
 
 namespace ostrel::tables {
 
-/// Which files of a directory are a report's own: those that its list names and that nobody has changed
+/// Which files of a directory are a report's own: those that its list names and that have not changed
 /// since. Others are not replaced without leave. While the report is made anew it keeps account of its files,
 /// so that the list is true at each moment. Names are the system's.
 class OwnFiles {
@@ -23,13 +23,13 @@ public:
 
     /// A file that the run is going to write.
     void Plan(std::string name);
-    /// The planned files that stand there and are not the report's own, but for those that `spared` tells,
-    /// which are never written. `giveWay` is called now and then.
+    /// Returns the planned files that exist and are not the report's own, except those for which `spared` is
+    /// true, which are never written. `giveWay` is called now and then.
     std::vector<std::string> InTheWay(const std::function<bool(const struct stat&)>& spared,
                                       const std::function<void()>& giveWay);
-    /// Whether the report that stands there was made of another input.
+    /// Whether the existing report was made from another input.
     bool OfAnotherInput() const { return found_ == ReportList::Found::List && list_.input != input_; }
-    /// What stood in the way may be replaced.
+    /// Allows the conflicting files to be replaced.
     void AllowAll() { allowed_ = true; }
     bool MayReplace(const std::string& name, const struct stat& there) const;
     void Written(const std::string& name, std::uint64_t size);
@@ -40,13 +40,13 @@ public:
     std::string ListBefore();
     /// The files of an earlier run that this one was not going to write.
     std::vector<std::string> Outdated() const;
-    /// Whether the file is as large as the list says, so that nobody has changed it. Where the run was cut
+    /// Whether the file has the size in the list and so counts as unchanged. Where the run was cut
     /// off before it could list the size, whether it is a page of the component's.
     bool Unchanged(const std::string& name) const;
     /// The file is there no more.
     void Deleted(const std::string& name);
-    /// The list to write at the end; nothing where it stands there already. A run that is not complete adds
-    /// what it has written to what was there.
+    /// Returns the list to write at the end, or nothing if the file holds it already. A run that is not
+    /// complete adds what it has written to what was there.
     std::optional<std::string> ListAfter(bool complete) const;
 
 private:

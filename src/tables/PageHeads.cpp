@@ -41,7 +41,7 @@ void PageHeads::TellOrder(TextView type, Text& title, TextView sortBy, bool up) 
     } else {
         return;
     }
-    // The dash is for the title of the window, where all stands on one line.
+    // The dash separates the parts in the window's title, which is one line.
     title += "<SPAN CLASS=\"dash\"> \x96 </SPAN><SPAN CLASS=\"order\">sorted by " + order + "</SPAN>";
 }
 

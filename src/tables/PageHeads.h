@@ -8,8 +8,8 @@
 
 namespace ostrel::tables {
 
-/// Gives each page of a report a head of its own while it lives: sorted pages tell in their title by what
-/// they are sorted, and pages of single records have a style sheet of theirs.
+/// Gives each page of a report a head of its own during its lifetime: the titles of sorted pages name the
+/// order in which they are sorted, and pages of single records have a style sheet of theirs.
 class PageHeads {
 public:
     /// `recordStyle` is the meta text of record pages.

@@ -12,7 +12,7 @@ std::string StemOf(const std::string& path);
 /// Whether the names of pages may hold it. Points would be taken for the extension's.
 bool IsNameCharacter(char c);
 
-/// What of a word can stand in the names of pages and in links to them.
+/// Returns the characters of a word that page names and links to them may hold.
 Text PageNameOf(const std::string& word);
 
 } // namespace ostrel::tables

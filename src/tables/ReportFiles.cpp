@@ -99,7 +99,7 @@ std::string ReportFiles::Shown(TextView text) const {
                                                      : ReplaceAll(text, Drive, directory_ + "/"));
 }
 
-/// The native path of a name on the drive; nothing for whatever lies elsewhere.
+/// Returns the native path of a name on the drive, or nothing for other paths.
 std::optional<Text> ReportFiles::Inside(const Text& path) const {
     if (base_.empty() || !path.starts_with(Drive)) return std::nullopt;
     const TextView name = TextView(path).substr(Drive.size());
@@ -161,7 +161,7 @@ FileResult ReportFiles::Replace(const Text& path, std::span<const TextView> piec
             listKept_ = static_cast<bool>(result);
             if (!result) return result;
         }
-        // What is behind a link lies elsewhere, and stays as it is.
+        // The target of a symbolic link is elsewhere and is not changed.
         struct stat there {};
         if (result && fstatat(handle_, name.c_str(), &there, AT_SYMLINK_NOFOLLOW) == 0 &&
             S_ISLNK(there.st_mode))

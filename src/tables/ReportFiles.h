@@ -17,7 +17,8 @@ class ReportFiles final : public Files {
 public:
     static constexpr TextView Drive = "O:\\";
 
-    /// `input` is the system's path of the input, "-" for none; `mainPage` is the name of the main page.
+    /// `input` is the system's path of the input, "-" for standard input; `mainPage` is the name of the main
+    /// page.
     ReportFiles(std::unique_ptr<Files> native, const std::string& input, const std::string& directory,
                 const Text& mainPage);
     ~ReportFiles() override;
@@ -25,7 +26,7 @@ public:
     /// Looks at the files that are going to be written, without making anything. The result are those that
     /// are there and were not made by a report. `giveWay` is called now and then.
     std::vector<std::string> Plan(const Array<Text>& names, const std::function<void()>& giveWay = {});
-    /// Whether the report that stands there was made of another input.
+    /// Whether the existing report was made from another input.
     bool OfAnotherInput() const { return own_.OfAnotherInput(); }
     /// What `Plan` has found there may be replaced.
     void AllowAll() { own_.AllowAll(); }
@@ -40,14 +41,14 @@ public:
     /// How many files were deleted.
     std::size_t Deleted() const { return deleted_; }
 
-    /// The last file that could not be written, empty for none, and why, without a point.
+    /// The last file that could not be written, or an empty text, and the reason without a full stop.
     const Text& LastFailed() const { return lastFailed_; }
     const Text& LastReason() const { return lastReason_; }
-    /// The sentence of what stands against writing anything more, such as a full disk; empty for nothing.
+    /// The reason why nothing more can be written, such as a full disk; empty if there is no such reason.
     const std::string& End() const { return end_; }
     /// `name`, a file's name in the report's directory, is the input itself.
     bool IsInput(const Text& name) const;
-    /// A text in which the drive stands, such as a message, with the directory in its place.
+    /// Returns a text such as a message with the drive replaced by the directory.
     std::string Shown(TextView text) const;
 
     bool IsFile(const Text& path) override;
@@ -90,7 +91,7 @@ private:
     std::string system_; ///< a system path of it, in ASCII, with a slash behind
     Text base_;          ///< the same for the native files
     int handle_ = -1;
-    bool listKept_ = false; ///< the list tells of what this run writes
+    bool listKept_ = false; ///< the list covers what this run writes
     std::size_t deleted_ = 0;
     Text lastFailed_, lastReason_;
     std::string end_;

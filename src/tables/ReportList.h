@@ -8,21 +8,20 @@
 
 namespace ostrel::tables {
 
-/// The list of a report's own files, which stands beside its pages: `.sales.ostrel` beside `sales.htm`. It
-/// tells them from files of the user's. Names are the system's, in UTF-8.
+/// The list of a report's own files, written beside its pages: `.sales.ostrel` beside `sales.htm`. It
+/// distinguishes them from the user's files. Names are the system's, in UTF-8.
 ///
-/// A list may come from anywhere, so names that a report would not give its files are passed over.
+/// A list may come from anywhere, so names that a report would not use are skipped.
 struct ReportList {
     enum class Found { Nothing, List, SomethingElse };
     static constexpr std::uint64_t UnknownSize = UINT64_MAX;
 
     /// Of a report with that main page, without its extension.
     static std::string NameOf(std::string_view stem) { return "." + std::string(stem) + ".ostrel"; }
-    /// Tells inputs apart by their places. The list may be published, so it does not give the path itself
-    /// away.
+    /// Identifies the input by a hash of its path. The list may be published, so it does not hold the path.
     static std::string MarkOf(const std::string& input);
 
-    /// Reads the list of that report; what else stands under its name, a link too, is left alone.
+    /// Reads the list of that report. Anything else of that name, such as a symbolic link, is not read.
     Found Read(const std::string& directory, std::string_view stem);
     /// The list as text. It is empty where there are more files than a list may hold.
     std::string Spell() const;

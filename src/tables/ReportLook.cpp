@@ -1,7 +1,8 @@
 #include "tables/ReportLook.h"
 
+#include "html/FontType.h"
+#include "tablepages/TableTypes.h"
 #include "tables/ReportStyle.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::tables {
 
@@ -27,7 +28,7 @@ void ApplyDefaultLook(const Look& look, OstrelWebHelp& web) {
     web.PageFontBoldSet(owhFontTitle, true);
     web.PageFontColourSet(owhFontSubTitle, "#52606D");
     web.PageFontColourSet(owhFontFooter, "#52606D");
-    // The style sheet does what edges and vertical alignment would say again in every cell.
+    // The style sheet sets edges and vertical alignment, so that cells need no attributes for them.
     web.PageTableAddLeft("");
     web.PageTableAddRight("");
     web.PageTableVAlign("");

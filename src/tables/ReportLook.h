@@ -8,8 +8,8 @@
 
 namespace ostrel::tables {
 
-/// How the pages of a report look: the default look, and what the user wants to have otherwise. The texts go
-/// into attributes and style sheets as they stand, so they must hold no quotes, brackets and semicolons.
+/// How the pages of a report look: the default look and the user's changes to it. The texts are written
+/// into attributes and style sheets unchanged, so they must hold no quotes, brackets and semicolons.
 struct Look {
     /// The two colours of the body, and which of its cells have which.
     struct Pattern {

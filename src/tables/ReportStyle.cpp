@@ -34,7 +34,7 @@ Text BasicRules(const StyleChoice& choice) {
     return style;
 }
 
-/// What the titles of sorted pages have: the line that tells their order.
+/// The line in the titles of sorted pages that names their order.
 Text OrderRules() {
     Text style;
     style += ".dash { display: none; }\r\n";
@@ -42,7 +42,7 @@ Text OrderRules() {
     return style;
 }
 
-/// With a point whatever the locale of the process says.
+/// Uses a decimal point whatever the process's locale.
 Text Decimal(double number) { return FormatNumber(number, "0.0"); }
 
 Text Digits(double count) { return Decimal(count) + "ch"; }

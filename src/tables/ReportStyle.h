@@ -16,8 +16,8 @@ struct StyleChoice {
 /// Rows that a page lays out together. A multiple of two, so that stripes go on from one group to the next.
 Long RowsOfGroup(const TableLayout& layout);
 
-/// The head of every page with the default look: padding, stripes and lines by a style sheet, since
-/// attributes would have to stand in every cell.
+/// The style sheet in the head of every page with the default look: padding, stripes and lines, which
+/// would need attributes in every cell.
 Text PageStyle(const StyleChoice& choice);
 
 /// The same for pages of a whole table. On the screen of a browser that can skip what is not on view, each

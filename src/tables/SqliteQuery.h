@@ -16,7 +16,7 @@ public:
     SqliteQuery(const SqliteQuery&) = delete;
     SqliteQuery& operator=(const SqliteQuery&) = delete;
 
-    /// Takes one statement that gives columns, in place of the one before.
+    /// Prepares one statement that returns columns, replacing the previous one.
     void Prepare(const std::string& sql);
     /// Goes to the next row. Returns false after the last one.
     bool Step();

@@ -64,7 +64,7 @@ std::string_view ValueOf(sqlite3_stmt* row, int column, std::string& scratch) {
 } // namespace
 
 bool IsSqliteFile(const std::string& path) {
-    // A pipe gives its bytes once, so only a plain file is looked into.
+    // A pipe can be read only once, so only regular files are examined.
     std::error_code error;
     if (path == "-" || !std::filesystem::is_regular_file(path, error)) return false;
     std::FILE* const file = std::fopen(path.c_str(), "rb");

@@ -15,7 +15,7 @@ class SqliteQuery;
 /// Whether the file begins as a SQLite database does.
 bool IsSqliteFile(const std::string& path);
 
-/// The names of the tables and views of a SQLite database, in order. Throws `InputError` where there is none.
+/// The names of the tables and views of a SQLite database, in order. Throws `InputError` if there are none.
 std::vector<std::string> SqliteTableNames(const std::string& path);
 
 /// The rows of a query over a SQLite database. With no query it is all of `tableName`, and with neither all

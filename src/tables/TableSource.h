@@ -7,7 +7,7 @@
 namespace ostrel::tables {
 
 /// Where the rows of a table come from, front to back. Another kind of input is another class of these.
-/// All functions may throw `InputError`, and `Interruption` where the host wants the reading to end.
+/// All functions may throw `InputError`, and `Interruption` if the host stops the reading.
 class TableSource {
 public:
     virtual ~TableSource() = default;

@@ -28,7 +28,7 @@ double WidthOf(unsigned char c) {
     return c >= 0x20 && c < 0x7F ? AsciiWidths[c - 0x20] : 0;
 }
 
-/// The length of the reference at the start of `html`, or 0 where there is none.
+/// Returns the length of the character reference at the start of `html`, or 0.
 std::size_t ReferenceLength(TextView html) {
     constexpr std::size_t longest = 10;
     const std::size_t end = html.substr(0, longest).find(';');

@@ -59,7 +59,7 @@ std::size_t PhraseCounter::CountIn(TextView text) const {
     const std::size_t end = text.size() - phrase_.size() + 1;
     std::size_t count = 0, compared = 0;
     for (std::size_t at = 0; at < end;) {
-        constexpr std::size_t block = 64;
+        constexpr std::size_t block = 256;
         char candidates[block];
         const std::size_t size = std::min(block, end - at);
         // Without an exit inside it, so that compilers turn a whole block into vector code.

@@ -67,6 +67,72 @@ TEST(ReportCommand, ShowsWhatTheFileHeld) {
     }
 }
 
+// Each option changes a page as it says: a piece of it comes, or a piece that is there without it goes.
+TEST(ReportCommand, EachOptionMakesItsPiece) {
+    struct Row {
+        std::string others, option, file, piece;
+    };
+    const TemporaryDirectory directory;
+    directory.Write("in.csv",
+                    "No,Name,Price,At,None\n1,Pear,2,1:30,\n2.1,Apple,0,0:30,\n2.2,Pear,3,1:00,\n,,,,\n");
+    const auto page = [&](const std::string& options, const std::string& file) {
+        std::filesystem::remove_all(directory.Path("out"));
+        const Outcome outcome = RunReport(directory, "in.csv -o out " + options);
+        EXPECT_EQ(outcome.status, 0) << outcome.errors;
+        return file.empty() ? outcome.out : directory.Read("out/" + file);
+    };
+    for (const auto& [others, option, file, piece] : std::vector<Row>{
+             {"", "--title T", "in.htm", "<TITLE>T</TITLE>"},
+             {"", "--sub-title S", "in.htm", "<P>S</P>"},
+             {"", "--footer F", "in.htm", "<P>F</P>"},
+             {"", "--name n", "n_2_U.htm", "Pear"},
+             {"", "--no-sort", "in_2_U.htm", "Pear"},
+             {"", "--records", "in_Rec_Num_2.htm", "Apple"},
+             {"--records", "--records=name", "in_Rec_Num_2_Name_D.htm", "Apple"},
+             {"--records", "--records=value", "in_Rec_Num_2_Value_D.htm", "Apple"},
+             {"--records", "--record-title Price", "in_Rec_Num_1.htm", "<B>2</B>"},
+             {"--records --hide Price", "--records-all", "in_Rec_Num_1.htm", "Price"},
+             {"", "--no-record-numbers", "in.htm", "R/N"},
+             {"", "--no-csv", "in.csv", "Pear"},
+             {"--hide Price", "--csv-all", "in.csv", "Price"},
+             {"", "--quiet", "", "pages written"},
+             {"", "--link Name=m.htm#", "in.htm", "<TD><A HREF=\"m.htm#.PEAR\">Pear</A></TD>"},
+             {"--link Name=m.htm#", "--link-tip Name=tip", "in.htm",
+              "<A HREF=\"m.htm#.PEAR\" TITLE=\"tip\">"},
+             {"", "--width Name=77", "in.htm", "<TD WIDTH=\"77\">Pear"},
+             {"", "--column-colour Name=red", "in.htm", "<TD BGCOLOR=\"red\">Pear"},
+             {"", "--column-color Price=red", "in.htm", "<TD ALIGN=\"RIGHT\" BGCOLOR=\"red\">2"},
+             {"", "--expose Name", "in_2_U.htm", "<TD><A NAME=\"Name.APPLE\">Apple"},
+             {"", "--record-column No", "in.htm", "#3"},
+             {"", "--total Price", "in.htm", "<TD ALIGN=\"RIGHT\" BGCOLOR=\"#EDF1F6\">5</TD>"},
+             {"", "--total-time At", "in.htm", "<TD ALIGN=\"RIGHT\" BGCOLOR=\"#EDF1F6\">00:03:00</TD>"},
+             {"--total Price", "--total-format 0.0", "in.htm", ">5.0<"},
+             {"--total Price --total No", "--total-format Price=0.0", "in.htm", ">5.0<"},
+             {"--total Price", "--break Name", "in.htm", "<B>Sub-Total: Apple</B>"},
+             {"--total Price", "--sub-totals", "in_2_U.htm", "<B>Sub-Total: Pear</B>"},
+             {"", "--pattern columns", "in.htm", "<TD ALIGN=\"RIGHT\" BGCOLOR=\"#F5F7FA\">2<"},
+             {"", "--row-colours red,lime", "in.htm", "<TD BGCOLOR=\"red\">Pear"},
+             {"", "--row-colors red,lime", "in.htm", "<TD BGCOLOR=\"lime\">Apple"},
+             {"", "--header-colour red", "in.htm", "<TD ALIGN=\"CENTER\" BGCOLOR=\"red\">"},
+             {"", "--background red", "in.htm", "<BODY BGCOLOR=\"red\">"},
+             {"", "--link-colour red", "in.htm", "a[href] { color: red;"},
+             {"", "--font Mono", "in.htm", "font: 14px/1.45 Mono;"},
+             {"", "--border 7", "in.htm", "<TABLE BORDER=\"7\""},
+             {"", "--plain", "in.htm", "<STYLE>"},
+             {"", "--blank-zeros", "in.htm", ">0<"},
+             {"", "--skip-blank-rows", "in.htm", "#4"},
+             {"", "--skip-blank-columns", "in.htm", "<B>None</B>"},
+             {"", "--repeat-header", "in.htm", "<A HREF=\"in_2_U.htm#bottom\""},
+             {"", "--header-link Home=h.htm", "in.htm", "<A HREF=\"h.htm\">Home</A>"},
+             {"", "--header-link Bottom", "in.htm", "<A HREF=\"#bottom\">Bottom</A>"},
+             {"", "--set PageTableBold=True", "in.htm", "<B>Pear</B>"},
+         }) {
+        const bool without = page(others, file).find(piece) != std::string::npos;
+        const bool with = page(others + " " + option, file).find(piece) != std::string::npos;
+        EXPECT_NE(without, with) << others << " " << option << ": " << piece;
+    }
+}
+
 TEST(ReportCommand, RefusesBadInputAndLeavesNothing) {
     std::string manyColumns(10'000, ','), large = "a\n" + std::string((64u << 20) + 1, 'x');
     struct Row {
@@ -103,6 +169,7 @@ TEST(ReportCommand, RefusesBadInputAndLeavesNothing) {
               "in.csv, line 1: the column name [../a] can't be part of a page's name."},
              {"a_b,a b\n1,2\n", "in.csv -o out --set PageTableOrderUseNames=True", 1,
               "in.csv, line 1: two columns would share the pages of the name [ab]."},
+             {"a\n1\n", "in.csv -o ''", 2, "-o: the directory has no name."},
              {"a\n1\n", "in.csv -o in.csv", 1, "The directory in.csv can't be written: it is no directory."},
              {"a\n1\n", "in.csv -o in.csv/out", 1,
               "The directory in.csv/out can't be written: Not a directory."},

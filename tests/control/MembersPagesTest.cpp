@@ -55,5 +55,28 @@ TEST(MembersPages, PageBodyOutlivesTheArgument) {
     EXPECT_EQ(bench.web->PageBody(), "");
 }
 
+TEST(MembersPages, ARecordPageKnowsItsNeighboursAndItsValues) {
+    test::ControlBench bench;
+    OstrelWebHelp& web = *bench.web;
+    web.PageReset();
+    web.PageTableAddSeparate(true);
+    web.PageTableHeaderNavNames("first", "previous", "next", "last", "all");
+    std::vector<Text> found;
+    Text shown;
+    web.events.PageCreateTableSeparatePage.Listen([&](Long& page, Long&, Text&, Text& links, Text&, Flag&) {
+        if (page != 3) return;
+        found = {web.LinkSeparateAll(),  web.LinkSeparateFirst(), web.LinkSeparatePrevious(),
+                 web.LinkSeparateNext(), web.LinkSeparateLast(),  web.SeparatePageValue("Unit price")};
+        shown = web.StripTags(links);
+    });
+    Text error;
+    ASSERT_TRUE(web.PageCreateTableNoTags("C:\\temp\\t.htm", "T", 5, 2, {"Name", "Unit Price"}, {},
+                                          {{"a", "1"}, {"b", "2"}, {"c", "3"}, {"d", "4"}, {"e", "5"}},
+                                          error));
+    EXPECT_EQ(found, (std::vector<Text>{"t.htm#Rec_Num_3", "t_Rec_Num_1.htm", "t_Rec_Num_2.htm",
+                                        "t_Rec_Num_4.htm", "t_Rec_Num_5.htm", "3"}));
+    EXPECT_EQ(shown, "all first previous next last");
+}
+
 } // namespace
 } // namespace ostrel

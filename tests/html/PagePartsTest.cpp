@@ -1,10 +1,13 @@
-#include "html/PageParts.h"
+#include "html/PageDocument.h"
+#include "html/PageDraft.h"
+#include "html/PageSave.h"
+#include "html/PageText.h"
 
 #include <gtest/gtest.h>
 
 #include "html/DocumentScan.h"
+#include "html/FontType.h"
 #include "html/PageWorld.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::html {
 namespace {
@@ -161,24 +164,24 @@ TEST(PageParts, CreatePage) {
 
 TEST(PageParts, Save) {
     test::PageWorld world;
-    Text error = "old";
-    EXPECT_FALSE(HelpPageSaveInternal(world.scope, "", error));
-    EXPECT_EQ(error, "File Path has not been defined.");
-    EXPECT_FALSE(HelpPageSaveInternal(world.scope, "C:\\pages\\a.htm", error));
-    EXPECT_EQ(error, "No Help Page defined.");
-    EXPECT_TRUE(world.help.ErrorFound);
+    PageSaved saved = SavePage(world.scope, "");
+    EXPECT_FALSE(saved.built);
+    EXPECT_EQ(saved.error, "File Path has not been defined.");
+    saved = SavePage(world.scope, "C:\\pages\\a.htm");
+    EXPECT_FALSE(saved.built);
+    EXPECT_EQ(saved.error, "No Help Page defined.");
 
     world.help.HelpPart2 = Rope(" \r\n");
     world.help.HelpPart3 = Rope("c");
     world.help.HelpRefresh = 5;
     world.page.ProgressRecords = 7;
     world.log.clear();
-    EXPECT_TRUE(HelpPageSaveInternal(world.scope, "C:\\pages\\a.htm", error));
-    EXPECT_EQ(error, "");
-    EXPECT_TRUE(world.help.NewFile);
-    EXPECT_FALSE(world.help.ErrorFound);
+    saved = SavePage(world.scope, "C:\\pages\\a.htm");
+    EXPECT_TRUE(saved.built);
+    EXPECT_EQ(saved.error, "");
+    EXPECT_TRUE(saved.newFile);
     const std::string content = world.Content("C:\\pages\\a.htm");
-    EXPECT_EQ(world.help.BytesWritten, static_cast<Long>(content.size()));
+    EXPECT_EQ(saved.bytesWritten, static_cast<Long>(content.size()));
     EXPECT_NE(content.find("CONTENT=\"5;URL='a.htm'\""), std::string::npos);
     EXPECT_NE(content.find("<BODY>\r\n\r\nc\r\n\r\n</BODY>"), std::string::npos);
     EXPECT_EQ(world.log, (std::vector<Text>{"PageCreateProgress InternalBuild - Start 7",
@@ -186,14 +189,15 @@ TEST(PageParts, Save) {
                                             "PageCreateBody <BODY>\r\n\r\nc\r\n\r\n</BODY>",
                                             "PageCreateProgress InternalBuild - Finish 7"}));
 
-    EXPECT_TRUE(HelpPageSaveInternal(world.scope, "C:\\pages\\a.htm", error));
-    EXPECT_FALSE(world.help.NewFile) << "unchanged";
+    saved = SavePage(world.scope, "C:\\pages\\a.htm");
+    EXPECT_TRUE(saved.built);
+    EXPECT_FALSE(saved.newFile) << "unchanged";
     EXPECT_EQ(world.files->replaces, 1);
 
-    EXPECT_TRUE(HelpPageSaveInternal(world.scope, "C:\\gone\\a.htm", error));
-    EXPECT_TRUE(error.starts_with("Help Page can't be saved - ")) << error;
-    EXPECT_TRUE(world.help.ErrorFound);
-    EXPECT_FALSE(world.help.NewFile);
+    saved = SavePage(world.scope, "C:\\gone\\a.htm");
+    EXPECT_TRUE(saved.built);
+    EXPECT_TRUE(saved.error.starts_with("Help Page can't be saved - ")) << saved.error;
+    EXPECT_FALSE(saved.newFile);
 }
 
 TEST(PageParts, InitialiseAndReset) {

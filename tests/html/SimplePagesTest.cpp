@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "html/FontType.h"
 #include "html/PageWorld.h"
 #include "support/Golden.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::html {
 namespace {

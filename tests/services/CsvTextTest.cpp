@@ -61,8 +61,9 @@ TEST(CsvText, WritesRecordsAndStops) {
         };
         Text message = "before";
         LargeBuffer room;
-        EXPECT_EQ(WriteCsvFile(platform.context, "", "C:\\d\\a.csv", Array<Text>{"N;1"}, cell, records,
-                               fields, message, ",", true, room),
+        const Array<Text> names{"N;1"};
+        EXPECT_EQ(WriteCsvFile(platform.context, "C:\\d\\a.csv", {names, records, fields, cell}, true, room,
+                               message),
                   error.empty());
         EXPECT_EQ(message, error);
         const Text& written = platform.Disk().files["C:\\d\\a.csv"];
@@ -88,7 +89,7 @@ TEST(CsvText, WantsAFullPath) {
     Text message;
     LargeBuffer room;
     EXPECT_FALSE(
-        WriteCsvFile(platform.context, "", "a.csv", Array<Text>{"N"}, cell, 1, 1, message, ",", false, room));
+        WriteCsvFile(platform.context, "a.csv", {Array<Text>{"N"}, 1, 1, cell}, false, room, message));
     EXPECT_EQ(message, "Path [a.csv] is not a full one.");
 }
 

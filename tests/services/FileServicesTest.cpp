@@ -181,26 +181,26 @@ TEST(FileServices, SafeWrite) {
              {" ", {}, 6, "Path [] is not a full one.", "old", "older"},
              {"a.htm", {}, 6, "Path [a.htm] is not a full one.", "old", "older"},
              {"C:\\x\\a.htm", {}, 6, "Directory [C:\\x\\] does not exist.", "old", "older"},
-             {path, {false, false, false}, 6, "File [C:\\d\\a.htm] exists.", "old", "older"},
-             {" C:\\d\\a.htm ", {false, false, true}, 6, "", "new", "older"},
-             {path, {true, false, true}, 6, "", "new", "old"},
-             {path, {true, true, false}, 6, "", "new", "old"},
-             {path, {true, true, true}, 7, "", "old", "older"},
-             {"C:\\d\\a.bak", {true, false, true}, 6, "New File [C:\\d\\a.bak] exists.", "old", "older"},
-             {"C:\\d\\a.bak", {false, false, true}, 6, "", "old", "new"},
+             {path, {false, false, {}}, 6, "File [C:\\d\\a.htm] exists.", "old", "older"},
+             {" C:\\d\\a.htm ", {false, true, {}}, 6, "", "new", "older"},
+             {path, {true, true, {}}, 6, "", "new", "old"},
+             {path, {true, false, "Title"}, 6, "", "new", "old"},
+             {path, {true, true, "Title"}, 7, "", "old", "older"},
+             {"C:\\d\\a.bak", {true, true, {}}, 6, "New File [C:\\d\\a.bak] exists.", "old", "older"},
+             {"C:\\d\\a.bak", {false, true, {}}, 6, "", "old", "new"},
          }) {
         TestPlatform platform;
         platform.Disk().Add(path, "old");
         platform.Disk().Add("C:\\d\\a.bak", "older");
         platform.answer = static_cast<MessageAnswer>(answer);
         Text message = "before";
-        EXPECT_EQ(WriteFileFull(platform.context, "Title", given, Pieces({"n", "ew"}), message, options),
+        EXPECT_EQ(WriteFileFull(platform.context, given, Pieces({"n", "ew"}), message, options),
                   error.empty());
         EXPECT_EQ(message, error);
         EXPECT_EQ(platform.Disk().files[path], content) << given;
         EXPECT_EQ(platform.Disk().files["C:\\d\\a.bak"], backup) << given;
         EXPECT_EQ(platform.questions,
-                  options.askOverwrite
+                  options.askTitle
                       ? std::vector<Text>{"Title: File [C:\\d\\a.htm] exists.  Do you want to Overwrite?"}
                       : std::vector<Text>{});
     }
@@ -215,7 +215,7 @@ TEST(FileServices, ABackupLiesBesideItsFile) {
         platform.Disk().Add("C:\\a.b\\any", "");
         platform.Disk().Add(path, "old");
         Text error;
-        EXPECT_TRUE(WriteFileFull(platform.context, "", path, Pieces({"new"}), error, {true, false, true}));
+        EXPECT_TRUE(WriteFileFull(platform.context, path, Pieces({"new"}), error, {.createBackup = true}));
         EXPECT_EQ(platform.Disk().files[backup], "old") << path;
     }
 }
@@ -226,7 +226,7 @@ TEST(FileServices, SafeWriteTellsOfABackupThatFailed) {
     platform.Disk().directories.insert("C:\\d\\a.bak");
     Text error;
     EXPECT_FALSE(
-        WriteFileFull(platform.context, "", "C:\\d\\a.htm", Pieces({"new"}), error, {true, false, true}));
+        WriteFileFull(platform.context, "C:\\d\\a.htm", Pieces({"new"}), error, {.createBackup = true}));
     EXPECT_EQ(error, "File [C:\\d\\a.htm] was not renamed - Path/File access error");
     EXPECT_EQ(platform.Disk().files["C:\\d\\a.htm"], "old");
 }
@@ -239,8 +239,8 @@ TEST(FileServices, AFailedCallNeverCostsTheOldFile) {
             files.Add("C:\\d\\a.htm", "old");
             files.failAt = failAt;
             Text error;
-            const bool written = WriteFileFull(platform.context, "", "C:\\d\\a.htm", Pieces({"new"}), error,
-                                               {backup, false, true});
+            const bool written = WriteFileFull(platform.context, "C:\\d\\a.htm", Pieces({"new"}), error,
+                                               {.createBackup = backup});
             EXPECT_EQ(files.files["C:\\d\\a.htm"], written ? "new" : "old") << failAt;
             EXPECT_EQ(error.empty(), written) << failAt;
             if (failAt > files.calls) break;

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "html/FontType.h"
+#include "tablepages/PageLinks.h"
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
+#include "tablepages/TableTypes.h"
 
 namespace ostrel::test {
 
@@ -91,6 +93,62 @@ const std::vector<Family>& Families() {
              options.PageTableHeaderSpace = true;
              options.PageTableSpace = true;
              options.PageTableBold = true;
+         }},
+        {"cell-look",
+         [](ReportHost& host) {
+             Prices(host);
+             TableOptions& options = host.Options();
+             options.PageTableAlign = "LEFT";
+             options.PageTableVAlign = "MIDDLE";
+             options.PageTableHeaderAlign = "RIGHT";
+             options.PageTableHeaderVAlign = "BOTTOM";
+             options.PageTableHeaderBold = false;
+             options.PageTableItalic = true;
+             options.PageTableRecordNumber = true;
+             options.PageTableRecordNumberItalic = true;
+             options.PageTableRecordNumberSort = true;
+             options.PageTableHeaderRNName = "No";
+             options.PageTableBackground = "sand.gif";
+             options.PageTableBGColor = "WHITE";
+             options.PageTableCellPadding = 2;
+             options.PageTableCellSpacing = 3;
+             options.PageTableZeroBlank = false;
+             options.PageTableHeaderLinksBold = true;
+             options.PageTableHeaderLinksItalic = true;
+             options.PageTableHeaderLinksSize = "2";
+             AddLink(host, "Home", "index.htm", false);
+         }},
+        {"own-tags",
+         [](ReportHost& host) {
+             Prices(host);
+             host.Options().PageTableTags = "CLASS=\"prices\"";
+             host.Options().PageTableBorder = 1;
+             host.Options().PageTableRecordNumber = true;
+             host.Options().PageTableRecordNumberItalic = true;
+             host.Options().PageTableAddSeparate = true;
+             host.Options().PageTableSeparateTTTo = "to the record";
+             host.Options().PageTableAddExcel = true;
+             AddLink(host, "Excel", "", true);
+             host.cells.Resize(1, 3);
+         }},
+        {"total-look",
+         [](ReportHost& host) {
+             Prices(host);
+             Summed(host);
+             Sorted(host, 1);
+             Sorted(host, 2, "Numeric");
+             TableOptions& options = host.Options();
+             options.PageTableColumnTotalFormat.Put(2, "0.00");
+             options.PageTableTotalLegend = "Whole";
+             options.PageTableTotalBelow = owhSpaceLine;
+             options.PageTableTotalBreak = true;
+             options.PageTableTotalBreakSplit = true;
+             options.PageTableTotalBreakColour = "PINK";
+             options.PageTableTotalBreakLegend = "Part";
+             options.PageTableColumnBreak.Put(1, true);
+             options.PageTableTotalSortSplit = true;
+             options.PageTableTotalSortBelow = owhSpaceLineDouble;
+             options.PageTableTotalSortLegend = "Group";
          }},
         {"sparse",
          [](ReportHost& host) {
@@ -238,6 +296,7 @@ const std::vector<Family>& Families() {
 } // namespace
 
 TEST(ReportFamily, GoldenPages) {
+    const std::set<std::string> elsewhere{"#", "index.htm", "list.htm#D.X-1", "list.htm#D.Y-Z"};
     for (const auto& [name, prepare] : Families()) {
         ReportHost host;
         prepare(host);
@@ -247,6 +306,8 @@ TEST(ReportFamily, GoldenPages) {
         for (const auto& file : host.files->files) made.insert(file.first.substr(file.first.rfind('\\') + 1));
         EXPECT_EQ(planned, made) << name;
         ExpectGolden(name + Text(".txt"), host.Family());
+        for (const std::string& link : BrokenLinks(host.ByName()))
+            EXPECT_TRUE(elsewhere.contains(link.substr(link.find("> ") + 2))) << name << ": " << link;
     }
 }
 

@@ -55,9 +55,14 @@ tablepages::TableInput ReportHost::Input() const {
 
 Text ReportHost::Family() const {
     Text family;
-    for (const auto& [path, content] : files->files)
-        family += "=== " + path.substr(path.rfind('\\') + 1) + "\r\n" + content + "\r\n";
+    for (const auto& [name, content] : ByName()) family += "=== " + name + "\r\n" + content + "\r\n";
     return family;
+}
+
+std::map<std::string, std::string> ReportHost::ByName() const {
+    std::map<std::string, std::string> pages;
+    for (const auto& [path, content] : files->files) pages[path.substr(path.rfind('\\') + 1)] = content;
+    return pages;
 }
 
 Text ReportHost::Page(const Text& name) const {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <vector>
 
 #include "control/PageScopeOf.h"
-#include "html/PageParts.h"
+#include "html/PageDraft.h"
 #include "support/MemoryFiles.h"
 #include "tablepages/PageCreateTable.h"
 #include "tablepages/PageNames.h"
@@ -58,6 +59,8 @@ public:
     std::set<Text> FileNames();
     /// All files of the folder, each behind a line with its name.
     Text Family() const;
+    /// All files of the folder by their names.
+    std::map<std::string, std::string> ByName() const;
     /// One file of the folder.
     Text Page(const Text& name) const;
 

@@ -2,8 +2,8 @@
 
 #include <limits>
 
+#include "platform/headless/VirtualClock.h"
 #include "tablepages/ReportHost.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::test {
 
@@ -149,6 +149,68 @@ TEST(ReportRun, StopAtEveryProgressEvent) {
         }
         EXPECT_GE(interrupted, 8);
     }
+}
+
+// What waits for its turn gets as many of them in each phase, and Stop is heard in all.
+TEST(ReportRun, StopInEveryTurn) {
+    const auto run = [](int stopAt, std::vector<Text>* phases) {
+        ReportHost host;
+        host.Table({"A"}, Grid<Text>(120, 1));
+        for (Long row = 1; row <= 120; ++row) host.cells.Put(row, 1, std::to_string(row));
+        host.Options().PageTableColumnSort.Put(1, true);
+        host.Options().PageTableAddSeparate = true;
+        host.Options().PageTableAddExcel = true;
+        host.Options().PageTableHeaderRepeat = true;
+        auto clock = std::make_unique<VirtualClock>();
+        int turns = 0, turnsOfPhase = 0;
+        Text phase = "before";
+        const auto end = [&] {
+            const Text line = std::to_string(turnsOfPhase) + " " + phase;
+            if (phases && (phases->empty() || phases->back() != line)) phases->push_back(line);
+            turnsOfPhase = 0;
+        };
+        std::function<void()> turn = [&, queue = clock.get()] {
+            ++turnsOfPhase;
+            if (++turns == stopAt) host.run.StopPressed = true;
+            queue->Post(turn);
+        };
+        clock->Post(turn);
+        host.platform.clock = std::move(clock);
+        host.events.PageCreateProgress.Listen([&](Text& message, Long&) {
+            if (message.starts_with("InternalBuild")) return;
+            end();
+            phase = message;
+        });
+        const bool made = host.Make();
+        end();
+        return std::pair(made, turns);
+    };
+    std::vector<Text> phases;
+    const auto [made, turns] = run(0, &phases);
+    EXPECT_TRUE(made);
+    EXPECT_EQ(phases, (std::vector<Text>{"0 before",
+                                         "2 Saving to Excel",
+                                         "1 Starting",
+                                         "1 Formatting",
+                                         "4 Formatting",
+                                         "2 Creating Table",
+                                         "0 Saving Page",
+                                         "0 Setting up Sort",
+                                         "1 Sorting Up - A",
+                                         "7 Sorting Strings",
+                                         "0 Creating Page - A",
+                                         "3 Creating Table - A",
+                                         "0 Saving Page - A",
+                                         "1 Sorting Down - A",
+                                         "7 Sorting Strings",
+                                         "0 Creating Page - A",
+                                         "3 Creating Table - A",
+                                         "1 Saving Page - A",
+                                         "10 Starting Separate Pages",
+                                         "10 Saving Separate Pages",
+                                         "0 Saving Separate Pages",
+                                         "0 Finished"}));
+    for (int at = 1; at <= turns; ++at) EXPECT_FALSE(run(at, nullptr).first) << at;
 }
 
 TEST(ReportRun, HostSortsByItself) {

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "html/FontType.h"
 #include "tablepages/PageLinks.h"
 #include "tablepages/ReportHost.h"
+#include "tablepages/TableTypes.h"
 #include "text/CodePage.h"
-#include "text/Enumerations.h"
 
 namespace ostrel::test {
 
@@ -33,11 +34,6 @@ struct RecordHost : ReportHost {
             family += "=== " + name + "\r\n" + Page(name) + "\r\n";
         }
         return family;
-    }
-    std::map<std::string, std::string> ByName() const {
-        std::map<std::string, std::string> pages;
-        for (const auto& [path, content] : files->files) pages[path.substr(path.rfind('\\') + 1)] = content;
-        return pages;
     }
     /// What was told from the start of the record pages on, but for the steps of building a page.
     std::vector<Text> Told() const {

@@ -24,7 +24,7 @@ Text NameOf(const Text& url) {
     return cut == NotFound || cut + 1 == url.size() ? url : url.substr(cut + 1);
 }
 
-/// Progress is told in 32 bits; larger files scale down.
+/// Progress is reported in 32 bits; larger files are scaled down.
 Long Scaled(std::uint64_t value, std::uint64_t size) {
     constexpr std::uint64_t Most = std::numeric_limits<Long>::max();
     return static_cast<Long>(size <= Most ? value : value / (size / Most + 1));
@@ -319,7 +319,7 @@ void HeadlessPane::EndLoad(const LoadPointer& load) {
     readyState_ = LoadState::Complete;
     sink_->StatusTextChange("done");
     if (!Runs(load)) return;
-    // From here on a listener may start the next load; this one is told to its end.
+    // A listener may start the next load from here on; the events of this one are still completed.
     load_.reset();
     if (load->way != Way::Refresh) sink_->DocumentComplete(load->url, load->way != Way::Frame);
     if (sink_) sink_->DownloadComplete();

@@ -14,14 +14,14 @@
 
 namespace ostrel {
 
-/// One thing that a pane was asked: its name and its arguments.
+/// One request to a pane: its name and arguments.
 struct PaneCall {
     Text name;
     std::vector<std::variant<Text, Long>> arguments;
 };
 
 /// A browser pane without an engine or a picture. It loads local files and their frames, keeps a history,
-/// and tells all of it through the loop, in this order: BeforeNavigate2, DownloadBegin, StatusTextChange,
+/// and raises the events from the loop, in this order: BeforeNavigate2, DownloadBegin, StatusTextChange,
 /// ProgressChange a chunk, NavigateComplete2, TitleChange and what changed of the forward and back states,
 /// the events of the frames, StatusTextChange "done", DocumentComplete, DownloadComplete. A refresh tells no
 /// navigation and no DocumentComplete; a load that fails leaves the page that is there and ends with
@@ -34,7 +34,7 @@ public:
     /// A new listener finds a fresh pane, but for what is held.
     void Listen(BrowserSink* sink) override;
     void Navigate(const Text& url) override;
-    /// A target that names a frame loads there; any other but the page itself asks for a new window.
+    /// A target that names a frame loads there; any other, except the page itself, requests a new window.
     void Navigate(const Text& url, const Text& target) override;
     void GoBack() override;
     void GoForward() override;
@@ -53,24 +53,24 @@ public:
     Text DocumentText(const Text& word) const override;
     void Focus() override { ++focused_; }
 
-    // For whoever stands in for the engine or looks at what it did.
+    // For tests and tools that play the engine or check what it was asked.
 
-    /// From now on only notes what it is asked: no load, no event.
+    /// Only logs requests from now on: no load, no event.
     void Hold();
-    /// What a held pane reports; what is left out stays.
+    /// Sets what a held pane reports; fields that are not given keep their values.
     void Report(std::optional<Text> url, std::optional<Text> name, std::optional<bool> busy,
                 std::optional<LoadState> readyState);
-    /// All that it was asked since the last taking.
+    /// Returns the requests since the last call.
     std::vector<PaneCall> TakeLog() { return std::exchange(log_, {}); }
     /// The addresses that were printed since the last taking.
     std::vector<Text> TakePrinted() { return std::exchange(printed_, {}); }
     /// The addresses that were to open in a window of their own since the last taking.
     std::vector<Text> TakeWindows() { return std::exchange(windows_, {}); }
-    /// How often a refresh of that level was asked.
+    /// The number of refreshes of that level.
     Long Refreshes(RefreshLevel level) const;
     /// How often it was given the focus.
     Long Focused() const { return focused_; }
-    /// Who hears the events; null for nobody. To raise one by hand, call it.
+    /// The listener of the events, or null. Call it to raise an event by hand.
     BrowserSink* Sink() const { return sink_; }
 
 private:
@@ -80,7 +80,7 @@ private:
         Text title;
         Text html;
     };
-    /// One load on its way. Only the newest one goes on.
+    /// One load in progress. Only the newest one continues.
     struct Load {
         Way way = Way::Plain;
         Text url;
@@ -95,13 +95,13 @@ private:
     using LoadPointer = std::shared_ptr<Load>;
 
     void Note(Text name, std::vector<std::variant<Text, Long>> arguments = {});
-    /// A fresh pane is blank already: to be asked for the blank page tells nothing.
+    /// A new pane is blank already, so a navigation to the blank page raises no events.
     void ShowBlankPage();
     void Start(Way way, const Text& url, const Text& target = {}, std::size_t place = 0);
     void Abandon();
     /// Runs the step through the loop, unless the load has been replaced by then.
     void Later(const LoadPointer& load, void (HeadlessPane::*step)(const LoadPointer&));
-    /// Whether the load still runs and somebody listens; asked again behind every event.
+    /// Whether the load still runs and has a listener; checked after every event.
     bool Runs(const LoadPointer& load) const { return load_ == load && sink_; }
     void Begin(const LoadPointer& load);
     void ReadOn(const LoadPointer& load);
@@ -126,7 +126,7 @@ private:
     Page page_;
     std::vector<Text> history_;
     std::size_t place_ = 0;
-    /// What was told of going; nothing before the first page.
+    /// The last reported ability to go back and forward; empty before the first page.
     std::optional<bool> canForward_;
     std::optional<bool> canBack_;
     LoadPointer load_;

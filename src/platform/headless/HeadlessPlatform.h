@@ -17,7 +17,7 @@ struct HeadlessPlatform : Platform {
 };
 
 HeadlessPlatform MakeHeadlessPlatform(bool virtualClock);
-/// Over files of the caller's choice, and settings; either may be null.
+/// Uses the caller's files and settings; either may be null.
 HeadlessPlatform MakeHeadlessPlatform(bool virtualClock, std::unique_ptr<Files> files,
                                       std::unique_ptr<SettingsStore> settings = nullptr);
 

@@ -14,11 +14,11 @@ public:
                                  MessageButtons buttons) = 0;
 };
 
-/// A screen of numbers. With nobody before it no form stands, and a message box ends by its most harmless
+/// A screen without pixels. Without a user no form is shown, and a message box ends by its most harmless
 /// answer.
 class HeadlessScreen final : public Screen {
 public:
-    /// Null for nobody. The user outlives its stay.
+    /// May be null. The caller keeps the user alive while it is set.
     void SeatUser(ScreenUser* user) { user_ = user; }
 
     void ShowModal(Form& form) override;

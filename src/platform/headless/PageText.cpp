@@ -54,7 +54,7 @@ Text Attribute(TextView tag, TextView name) {
     return {};
 }
 
-/// Decodes the entity at the start of `text`; false where there is none.
+/// Decodes the entity at the start of `text`; false if there is no entity.
 bool DecodeEntity(TextView text, char& character, std::size_t& length) {
     const std::size_t close = text.substr(0, 10).find(';');
     if (close == NotFound) return false;
@@ -103,7 +103,7 @@ Text DecodeEscapes(TextView text) {
     return decoded;
 }
 
-/// Length of a scheme with its colon, 0 for none. A single letter is a drive.
+/// Returns the length of a scheme with its colon, or 0. A single letter is a drive.
 std::size_t SchemeLength(TextView address) {
     const std::size_t colon = address.find(':');
     if (colon == NotFound || colon < 2) return 0;

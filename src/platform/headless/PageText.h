@@ -8,7 +8,8 @@ namespace ostrel::headless {
 
 // What a pane without an engine reads out of a page.
 
-/// The text of the title, with its entities decoded and its white space collapsed; empty for none.
+/// The text of the title, with its entities decoded and its white space collapsed; empty if there is no
+/// title.
 Text TitleOf(TextView html);
 
 /// A frame inside a page.
@@ -18,14 +19,14 @@ struct InnerFrame {
 };
 std::vector<InnerFrame> FramesOf(TextView html, std::size_t most);
 
-/// The body with its tags, or what lies between them.
+/// The body with its tags, or the content between them.
 TextView BodyOf(TextView html, bool withTags);
 /// Without its tags.
 Text PlainText(TextView html);
 
 /// The path of a local address; empty for one that is not local. Path and `file:` addresses are local.
 Text LocalPath(const Text& address);
-/// An address as it stands in a page, seen from that page.
+/// Resolves an address in a page relative to that page.
 Text ResolveAddress(const Text& page, const Text& address);
 
 } // namespace ostrel::headless

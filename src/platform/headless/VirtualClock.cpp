@@ -13,7 +13,7 @@ Date VirtualClock::Now() const {
 }
 
 void VirtualClock::RunAllDue() {
-    // Work that keeps posting more work must not hold the moment for ever.
+    // Work that keeps posting more work must not stop time for ever.
     constexpr int MostRounds = 10'000;
     for (int round = 0; round < MostRounds && queue_.Due(); ++round) queue_.RunDue();
 }

@@ -4,7 +4,7 @@
 
 namespace ostrel {
 
-/// A clock that stands still but for `Advance` and for the component's own waits, so that a run repeats to
+/// A clock that moves only by `Advance` and by the component's own waits, so that a run is repeatable to
 /// the byte. Only a sleep with sources takes real time: as long as these are silent, and then its own time
 /// moves on by as much. It starts at midnight of 1 January 2001.
 class VirtualClock final : public Clock {
@@ -20,9 +20,9 @@ public:
     void Post(std::function<void()> work) override { queue_.Post(std::move(work)); }
     bool Pending() const override { return queue_.Due(); }
     void Yield() override { queue_.RunDue(); }
-    /// Ends when the tick count says so, which may be set meanwhile.
+    /// Ends by the tick count, which may be set meanwhile.
     void Wait(Long milliseconds) override;
-    /// Time stands still where a source ends it.
+    /// Time does not move if a source ends it.
     bool Sleep(Long longest, std::span<WakeSource> sources) override;
 
     /// Lets that much time pass, from one due moment to the next. What is due at the last one still runs.

@@ -52,7 +52,7 @@ int CopyInto(SystemCalls& calls, const std::string& from, TemporaryFile& to) {
     }
 }
 
-/// The file stands under both names, so that its own is never missing.
+/// The file has both names for a moment, so that its own is never missing.
 int KeepBackup(SystemCalls& calls, const std::string& path, const struct stat& status,
                const std::string& backup) {
     TemporaryFile copy(calls, backup);

@@ -4,10 +4,10 @@
 
 namespace ostrel {
 
-/// Whether the text holds "*" or "?".
+/// Returns whether the text contains "*" or "?".
 bool IsMask(TextView name);
 
-/// Whether `name` matches `mask`, ignoring case: "*" stands for any characters, "?" for one, and ".*" at the
+/// Whether `name` matches `mask`, ignoring case: "*" matches any characters, "?" one, and ".*" at the
 /// end also for no extension at all.
 bool MatchesMask(TextView name, TextView mask);
 

@@ -26,7 +26,7 @@ namespace {
 /// The path names nothing that the system could have.
 FileResult NoSuchPlace() { return Failure(ENOENT, 76); }
 
-/// Fills the buffer as far as the file goes; 0 or the system's error.
+/// Fills the buffer up to the end of the file. Returns 0 or the system's error.
 int ReadFully(SystemCalls& calls, int file, char* buffer, std::size_t size, std::size_t& count) {
     count = 0;
     while (count < size) {

@@ -53,7 +53,7 @@ std::optional<std::string> NativePaths::ToSystem(TextView path) const {
         }
         start = end + 1;
     }
-    // A trailing separator asks for a directory, and the system refuses the path of a file with one.
+    // A trailing separator denotes a directory, and the system refuses a file's path with one.
     if (result.empty() || (!path.empty() && IsSeparator(path.back()))) result += '/';
     return result;
 }

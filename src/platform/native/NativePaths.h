@@ -16,11 +16,11 @@ public:
     NativePaths();
 
     /// The system's path, absolute and without "." and "..". Nothing for an empty path, other drives, network
-    /// shares and names that hold a null character.
+    /// shares and names that contain a null character.
     std::optional<std::string> ToSystem(TextView path) const;
     /// The component's path of an absolute system path; nothing where the code page lacks one of its names.
     static std::optional<Text> FromSystem(std::string_view path);
-    /// A single name; nothing where it cannot be said in the component.
+    /// A single name; nothing if the code page cannot represent it.
     static std::optional<Text> NameFromSystem(std::string_view name);
 
     /// Without a trailing backslash unless it is the root.

@@ -12,7 +12,7 @@ namespace ostrel {
 
 std::unique_ptr<Clock> MakeNativeClock();
 std::unique_ptr<Files> MakeNativeFiles();
-/// The settings of the user below XDG_CONFIG_HOME, or else HOME, as they stand now.
+/// The settings of the user below XDG_CONFIG_HOME, or else HOME, read at the time of the call.
 std::unique_ptr<SettingsStore> MakeNativeSettings();
 
 } // namespace ostrel

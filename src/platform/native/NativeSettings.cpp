@@ -21,12 +21,12 @@ Text WithoutLastBackslash(Text key) {
     return key;
 }
 
-/// Whether `key` is `above` or stands below it.
+/// Whether `key` is `above` or a key below it.
 bool StandsIn(TextView key, TextView above) {
     return StartsWithText(key, above) && (key.size() == above.size() || key[above.size()] == '\\');
 }
 
-/// Takes out the settings that `goes` picks; whether there were any.
+/// Removes the settings for which `goes` is true. Returns whether there were any.
 template <class Goes>
 bool Remove(SettingsFile::Lines& lines, Goes goes) {
     return std::erase_if(lines, [&](const SettingsFile::Line& line) {

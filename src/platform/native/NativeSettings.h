@@ -7,7 +7,8 @@
 
 namespace ostrel {
 
-/// The directory for the files of this component among the user's settings; empty where the user has none.
+/// The directory for the files of this component among the user's settings; empty if the user has no home
+/// directory.
 std::string UserConfigDirectory();
 
 /// Settings in two text files: `settings` by application, section and key, and `keys` with the direct ones.

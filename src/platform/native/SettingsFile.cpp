@@ -17,7 +17,7 @@ namespace ostrel {
 
 namespace {
 
-/// Makes the directory with all above it; nobody else may look into one that is made here.
+/// Makes the directory and its parents, readable to the user alone.
 void MakeDirectories(SystemCalls& calls, const std::string& directory) {
     struct stat status;
     if (calls.Status(directory.c_str(), status) == 0 || directory == "/") return;

@@ -25,7 +25,7 @@ public:
 
     /// The value of the last line with these names, ignoring case.
     std::optional<Variant> Find(const Setting::Names& names);
-    /// Reads the lines, lets `change` have its way with them and puts them back if it says so, while no other
+    /// Reads the lines, calls `change` on them and writes them back if it returns true, while no other
     /// program does the same. A file that cannot be read is left alone. The empty text for success, else the
     /// system's sentence.
     Text Change(const std::function<bool(Lines&)>& change);

@@ -35,7 +35,7 @@ int HexValue(char c) {
     return digit == std::string_view::npos ? -1 : static_cast<int>(digit);
 }
 
-/// Reads a line from front to back; every step tells whether it found what it looks for.
+/// Reads a line from front to back; every step returns whether it matched.
 class Reader {
 public:
     explicit Reader(std::string_view line) : line_(line) {}

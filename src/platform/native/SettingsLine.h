@@ -17,7 +17,7 @@ struct Setting {
 };
 
 /// A line of the settings file, without its end: `"Sales" "Editor" "Find" = "caf\xE9"`, in UTF-8. Numbers
-/// stand without quotes. Every line stands for itself, so that damage to one is no harm to the others.
+/// are written without quotes. Lines are independent, so that a damaged one does not affect the others.
 std::string FormatSetting(const Setting& setting);
 /// Nothing for a comment or a damaged line.
 std::optional<Setting> ParseSetting(std::string_view line);

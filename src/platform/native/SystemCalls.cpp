@@ -67,7 +67,7 @@ int SystemCalls::SetModeOf(const char* path, mode_t mode) { return ::chmod(path,
 int SystemCalls::SetOwner(int file, uid_t user, gid_t group) { return ::fchown(file, user, group); }
 
 int SystemCalls::NameOpenFile(int file, const char* path) {
-    // Older systems give this shorter way to privileged users alone.
+    // Older systems allow this only to privileged users.
     if (::linkat(file, "", AT_FDCWD, path, AT_EMPTY_PATH) == 0) return 0;
     if (errno != ENOENT && errno != EPERM) return -1;
     char open[32];

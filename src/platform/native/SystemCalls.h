@@ -18,8 +18,8 @@ struct DirectoryEntry {
     Kind kind;
 };
 
-/// Everything that the native roles ask of the system, in one place, so that a test can let any of it fail.
-/// Like the system's own calls they give -1 and set `errno`; interrupted ones are not repeated here.
+/// All system calls of the native roles, in one place, so that a test can make any of them fail.
+/// Like the system's own they return -1 and set `errno`; interrupted calls are not repeated here.
 class SystemCalls {
 public:
     virtual ~SystemCalls() = default;

@@ -51,7 +51,7 @@ Long ComponentNumber(int error) {
 
 Text SystemSentence(int error) {
     if (error <= 0) return {};
-    // Without the user's language, since the text goes out in the component's code page.
+    // In English, since the text must fit the component's code page.
     const char* const description = strerrordesc_np(error);
     return description ? Text(description) + "." : Text();
 }

@@ -4,13 +4,13 @@
 
 namespace ostrel {
 
-/// The system's sentence for one of its error numbers; empty if it has none.
+/// Returns the system's description of an error number, or an empty text.
 Text SystemSentence(int error);
 
 /// What the component's caller gets to see of a system error.
 FileResult Failure(int error);
 
-/// The component's own number, where another one says more than the system's.
+/// Maps to the component's own error number where that is more precise than the system's.
 FileResult Failure(int error, Long number);
 
 } // namespace ostrel

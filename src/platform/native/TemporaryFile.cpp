@@ -13,7 +13,7 @@ namespace {
 
 constexpr mode_t NewFileMode = 0666;
 constexpr mode_t PermissionBits = 07777;
-/// Leftovers of a killed process with the same number stand in the way of names.
+/// Leftovers of a killed process with the same id may occupy names.
 constexpr int NameAttempts = 1000;
 
 std::string FreshName(const std::string& target) {
@@ -88,7 +88,7 @@ int TemporaryFile::Adopt(const std::string& path) {
 int TemporaryFile::Resemble(const struct stat& model) {
     struct stat own;
     if (calls_.FileStatus(file_, own) != 0) return errno;
-    // Only a privileged user may give files away; anybody else goes on as the owner.
+    // Only a privileged user may change the owner; for others the new file keeps theirs.
     bool changed = false;
     if (own.st_uid != model.st_uid || own.st_gid != model.st_gid)
         changed = calls_.SetOwner(file_, model.st_uid, model.st_gid) == 0;
@@ -115,7 +115,7 @@ int TemporaryFile::PlaceInstead() {
     if (name_.empty()) {
         if (const int error = GetName()) return error;
     }
-    // Some file systems tell only now that the disk was full.
+    // Some file systems report a full disk only at this point.
     if (const int error = Close()) return error;
     if (calls_.Rename(name_.c_str(), target_.c_str()) != 0) return errno;
     // A file that had both names already keeps them.

@@ -16,7 +16,8 @@ int WriteAll(SystemCalls& calls, int file, std::span<const TextView> pieces);
 
 /// A file under construction beside its target. It has no name at all where the file system can do that, so
 /// that nothing is left of it whenever the process ends; else one by which no page, table or mask of the
-/// component goes. What was not put in place is gone at the end. Results are 0 or the system's error.
+/// component goes. A file that was not put in place is deleted at the end. Results are 0 or the system's
+/// error.
 class TemporaryFile {
 public:
     enum class Kind { Unnamed, Named };
@@ -27,7 +28,7 @@ public:
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    /// An unnamed file becomes a named one where there are none.
+    /// Makes a named file where the system has no unnamed ones.
     int Open(Kind kind);
     /// In place of `Open` and `Write`: the file at `path` itself, under one more name.
     int Adopt(const std::string& path);
@@ -36,10 +37,10 @@ public:
     int Write(std::span<const TextView> pieces) { return WriteAll(calls_, file_, pieces); }
     /// Takes the target's name, which is free.
     int PlaceNew();
-    /// Takes the target's name from the file that has it, in one step.
+    /// Replaces the target in one step.
     int PlaceInstead();
     /// Whether the last step failed only because the name was taken meanwhile, or because an unnamed file can
-    /// get none here; another attempt with a named one may go better.
+    /// have none here; another attempt with a named one may succeed.
     bool WorthAnotherAttempt() const { return again_; }
 
 private:

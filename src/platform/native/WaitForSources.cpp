@@ -18,7 +18,7 @@ bool WaitForSources(std::span<WakeSource> sources, TimerQueue::Moment longest) {
     constexpr TimerQueue::Moment Longest = std::numeric_limits<int>::max();
     const auto timeout = static_cast<int>(std::clamp<TimerQueue::Moment>(longest, 0, Longest));
     const bool any = ::poll(polled.data(), polled.size(), timeout) > 0;
-    // An end, an error and a descriptor that is not open count as well: the next use tells of them.
+    // End of file, errors and closed descriptors count as ready: the next use reports them.
     for (std::size_t i = 0; i < sources.size(); ++i) sources[i].ready = any && polled[i].revents != 0;
     return any;
 }

@@ -1,6 +1,8 @@
+#include "html/PageText.h"
+
 #include "html/Elements.h"
-#include "html/PageParts.h"
-#include "text/Enumerations.h"
+#include "services/TagText.h"
+#include "text/CodePage.h"
 
 namespace ostrel::html {
 
@@ -14,15 +16,30 @@ const PageFonts::Entry* FontEntry(const PageFonts& fonts, Long fontType) {
     return entry && !entry->Plain() ? entry : nullptr;
 }
 
+/// Each run of line ends as one " - ".
+Text OnOneLine(TextView text) {
+    Text result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const std::size_t end = text.find(LineEnd);
+        result.append(text.substr(0, end));
+        if (end == NotFound) break;
+        text.remove_prefix(end);
+        while (text.starts_with(LineEnd)) text.remove_prefix(LineEnd.size());
+        result.append(" - ");
+    }
+    return result;
+}
+
 } // namespace
 
 Text PageFontStartTag(const PageScope& scope, Long fontType) {
-    const PageProperties& page = scope.page;
+    const PageProperties& settings = scope.settings;
     Text result;
     if (const PageFonts::Entry* font = FontEntry(scope.fonts, fontType))
-        result = CreateFontStart(font->face.empty() ? page.PageFontFace : font->face,
-                                 font->size.empty() ? page.PageFontSize : font->size,
-                                 font->colour.empty() ? page.PageFontColour : font->colour);
+        result = CreateFontStart(font->face.empty() ? settings.PageFontFace : font->face,
+                                 font->size.empty() ? settings.PageFontSize : font->size,
+                                 font->colour.empty() ? settings.PageFontColour : font->colour);
     if (const PageFonts::Entry* own = scope.fonts.Find(fontType)) {
         if (own->bold) result.append("<B>");
         if (own->italic) result.append("<I>");
@@ -44,6 +61,13 @@ Text PageFontEndTag(const PageScope& scope, Long fontType) {
 Text PageTextBlock(const PageScope& scope, TextView text, Long fontType) {
     if (text.empty()) return {};
     return PageFontStartTag(scope, fontType) + CreateParagraph(text, false) + PageFontEndTag(scope, fontType);
+}
+
+Text PageTitleBlock(const PageScope& scope, TextView title) {
+    const Text shown(TrimBlanks(title).empty() ? TextView(scope.settings.PageTitle) : title);
+    if (shown.empty()) return {};
+    scope.draft.HelpTitle = OnOneLine(services::StripTags(shown));
+    return PageTextBlock(scope, shown, owhFontTitle);
 }
 
 } // namespace ostrel::html
