@@ -162,6 +162,20 @@ void FormDialogTest::HandlersChangeOtherControls() {
         QTest::keyClicks(edit, "x");
         QCOMPARE(edit->text(), QString("axb"));
         QCOMPARE(edit->cursorPosition(), 2);
+        auto* lines = FormBench::Find<QPlainTextEdit>(dialog, "txtLines");
+        lines->setFocus();
+        FormBench::Commit(lines, QString::fromUtf8("\u03b1"));
+        QCOMPARE(lines->toPlainText(), QString("?one\ntwo"));
+        QTest::keyClicks(lines, "b");
+        QCOMPARE(lines->toPlainText(), QString("?bone\ntwo"));
+    });
+    form.lines.onChange = [&form] { form.lines.text = *form.lines.text + "!"; };
+    bench.Show(form, [](QDialog& dialog) {
+        auto* lines = FormBench::Find<QPlainTextEdit>(dialog, "txtLines");
+        lines->setFocus();
+        QTest::keyClicks(lines, "c");
+        QCOMPARE(lines->toPlainText(), QString("c?bone\ntwo!"));
+        QCOMPARE(lines->textCursor().position(), 1);
     });
 }
 
@@ -206,6 +220,11 @@ void FormDialogTest::ListsTellOneClickOnce() {
         QVERIFY(take().ends_with("double;"));
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(take(), Text("list=1;"));
+        // What is pressed and let go elsewhere is not chosen.
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, place(0));
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, {20, list->viewport()->height() - 3});
+        QCOMPARE(take(), Text());
+        QCOMPARE(list->currentRow(), 1);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place(1));
         QCOMPARE(take(), Text("list=1;"));
     });
