@@ -16,7 +16,7 @@
 #include "desktop/QtScreen.h"
 #include "desktop/QtText.h"
 #include "plain.h"
-#include "ui/Form.h"
+#include "ui/Dialogs.h"
 
 using namespace ostrel;
 
@@ -115,7 +115,10 @@ double MeasureForm(const Text& text, const std::string& size) {
         memory = Memory() - before;
         dialog.done(0);
     });
-    form.Show(platform);
+    Events events;
+    RunFlags run;
+    const Context context{events, platform, run};
+    ShowDialog({context, DialogProperties()}, form, At{});
     return memory;
 }
 

@@ -2,37 +2,35 @@
 
 #include <algorithm>
 
-#include "ui/AboutForm.h"
-#include "ui/MessageBox.h"
-
 namespace ostrel::bridge {
 
 namespace {
 
-FormRow RowOf(const Form& form) {
-    FormRow row{form.name, form.caption, {}};
-    for (const Control* control : form.Controls()) row.controls.push_back(control->name);
-    return row;
-}
-
-/// Message boxes of all sorts are one form; each sort has buttons of its own.
-FormRow MessageBoxRow() {
-    FormRow all;
-    for (Long buttons = 0; buttons <= 5; ++buttons) {
-        const FormRow row =
-            RowOf(MessageBox(MessageKind::Query, "", "", static_cast<MessageButtons>(buttons)));
-        all.name = row.name;
-        for (const Text& control : row.controls)
-            if (std::find(all.controls.begin(), all.controls.end(), control) == all.controls.end())
-                all.controls.push_back(control);
+std::vector<FormRow> DescribeForms() {
+    std::vector<FormRow> rows;
+    for (const FormMaker make : FormMakers()) {
+        const std::unique_ptr<Form> form = make();
+        auto row = std::find_if(rows.begin(), rows.end(),
+                                [&](const FormRow& each) { return each.name == form->name; });
+        if (row == rows.end()) row = rows.insert(row, {form->name, form->caption, {}});
+        for (const Control* control : form->Controls())
+            if (std::find(row->controls.begin(), row->controls.end(), control->name) == row->controls.end())
+                row->controls.push_back(control->name);
     }
-    return all;
+    return rows;
 }
 
 } // namespace
 
+std::vector<FormMaker> FormMakers() {
+    std::vector<FormMaker> makers;
+    for (const std::span<const FormMaker> table : {UiForms()})
+        makers.insert(makers.end(), table.begin(), table.end());
+    return makers;
+}
+
 const std::vector<FormRow>& AllForms() {
-    static const std::vector<FormRow> forms{MessageBoxRow(), RowOf(AboutForm({}))};
+    static const std::vector<FormRow> forms = DescribeForms();
     return forms;
 }
 

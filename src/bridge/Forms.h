@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "text/Text.h"
+#include "ui/FormTable.h"
 
 namespace ostrel::bridge {
 
@@ -14,7 +14,9 @@ struct FormRow {
     std::vector<Text> controls;
 };
 
-/// Every form of the component.
+/// Every form of the component, from the tables of the folders.
+std::vector<FormMaker> FormMakers();
+/// The same, described. Forms of one name that differ in their controls are one row with all of them.
 const std::vector<FormRow>& AllForms();
 /// The row of that exact name, or null.
 const FormRow* FindForm(std::string_view name);

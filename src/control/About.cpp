@@ -2,6 +2,7 @@
 #include "control/OstrelWebHelp.h"
 #include "control/Version.h"
 #include "ui/AboutForm.h"
+#include "ui/Dialogs.h"
 
 namespace ostrel {
 
@@ -14,13 +15,7 @@ void OstrelWebHelp::ShowAboutBox() {
                         .created = {},
                         .description = "Help pages, reports and HTML for applications.",
                         .disclaimer = {}});
-        form.icon = parts_->state.control.Icon;
-        if (const Screen* screen = parts_->context.platform.screen.get()) {
-            const Bounds place = CentreOnScreen({0, 0, form.width, form.height}, screen->Area());
-            form.left = place.left;
-            form.top = place.top;
-        }
-        form.Show(parts_->context.platform);
+        ShowDialog({parts_->context, parts_->state.dialog}, form, Centred{});
     });
 }
 
@@ -35,10 +30,7 @@ void OstrelWebHelp::ShowOstrelAboutBox(const Text& ProgramName, Long Major, Long
                         .created = CreationDate,
                         .description = Description,
                         .disclaimer = Disclaimer});
-        form.icon = parts_->state.control.Icon;
-        form.left = Left;
-        form.top = Top;
-        form.Show(parts_->context.platform);
+        ShowDialog({parts_->context, parts_->state.dialog}, form, At{.left = Left, .top = Top});
     });
 }
 

@@ -10,6 +10,9 @@
 #define OWNER service
 #include "services/ServiceProperties.def"
 #undef OWNER
+#define OWNER dialog
+#include "ui/DialogProperties.def"
+#undef OWNER
 #define OWNER draft
 #include "html/HelpProperties.def"
 #undef OWNER

@@ -12,6 +12,7 @@
 #include "services/ServiceProperties.h"
 #include "tablepages/HeaderLinks.h"
 #include "tablepages/TableOptions.h"
+#include "ui/DialogProperties.h"
 
 namespace ostrel {
 
@@ -21,6 +22,7 @@ struct State {
     ControlProperties control;
     ToolbarProperties toolbar;
     ServiceProperties service;
+    DialogProperties dialog;
     HelpProperties draft;        ///< the page under construction
     PageProperties pageSettings; ///< of the pages to come; `PageInitialise` copies them into `draft`
     PageFonts fonts;

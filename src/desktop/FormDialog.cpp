@@ -4,7 +4,6 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -27,7 +26,9 @@ constexpr int SyncMilliseconds = 50;
 /// A dialog of one short box is wide enough for its title.
 constexpr int LeastWidth = 300;
 
-Bounds PlaceOf(const Form& form) { return {form.left, form.top, form.width, form.height}; }
+Bounds BoundsOf(const Form& form) { return {form.left, form.top, form.width, form.height}; }
+
+Long Rounded(double twips) { return static_cast<Long>(std::lround(twips)); }
 
 /// What a window regains by itself is no choice of the user, and a handler may have moved the focus
 /// meanwhile.
@@ -43,24 +44,17 @@ FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent), form_(for
     for (Control* control : form.Controls())
         if (auto shown = ShowControl(*control, *this, *this)) controls_.push_back(std::move(shown));
     ArrangeForm(*this, controls_);
-    for (const auto& shown : controls_) {
-        shown->Widget().installEventFilter(this);
-        if (shown->Model().kind == ControlKind::RichText) setWindowFlag(Qt::WindowMaximizeButtonHint);
-        if (shown->Model().name == "cmdOK")
-            if (auto* ok = qobject_cast<QPushButton*>(&shown->Widget())) ok->setDefault(true);
-    }
-    if (const RichText* text = form.MainText()) {
-        QWidget& widget = *findChild<QPlainTextEdit*>(ToQt(text->name));
-        const auto menu = std::find_if(form.Controls().begin(), form.Controls().end(),
-                                       [](const Control* each) { return each->kind == ControlKind::Menu; });
-        if (menu != form.Controls().end()) {
-            widget.setContextMenuPolicy(Qt::CustomContextMenu);
-            connect(&widget, &QWidget::customContextMenuRequested, this,
-                    [this, &widget, &shown = static_cast<const Menu&>(**menu)](QPoint place) {
-                        OpenMenu(shown, widget.mapToGlobal(place));
-                    });
+    for (const auto& shown : controls_) shown->Widget().installEventFilter(this);
+    if (form.MainText()) {
+        setWindowFlag(Qt::WindowMaximizeButtonHint);
+        if (form.Popup()) {
+            QWidget& text = ShownFor(form.MainText())->Widget();
+            text.setContextMenuPolicy(Qt::CustomContextMenu);
+            connect(&text, &QWidget::customContextMenuRequested, this,
+                    [this, &text](QPoint place) { OpenMenu(*form_.Popup(), text.mapToGlobal(place)); });
         }
     }
+    form.Window(this);
     Sync();
     Place();
     // The loop is about to wait after whatever changed the form. A long job may keep it from waiting.
@@ -71,6 +65,7 @@ FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent), form_(for
 }
 
 FormDialog::~FormDialog() {
+    form_.Window(nullptr);
     // What widgets still say while they go is not the user's.
     syncing_ = true;
     qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
@@ -82,6 +77,8 @@ void FormDialog::Sync() {
         if (isVisible()) done(form_.Accepted() ? Accepted : Rejected);
         return;
     }
+    if (revision_ == form_.Revision()) return;
+    revision_ = form_.Revision();
     const QScopedValueRollback<bool> guard(syncing_, true);
     SyncWindow();
     for (const auto& shown : controls_) shown->Sync();
@@ -144,8 +141,13 @@ void FormDialog::resizeEvent(QResizeEvent* event) {
 
 void FormDialog::Act(Control& control, const std::function<void()>& action) {
     if (syncing_) return;
+    // The toolkit has shown already what the user did, and the other options of a group follow there.
+    const bool reachable = control.Reachable();
+    for (const auto& shown : controls_)
+        if (!reachable || &shown->Model() == &control) shown->Outdate();
+    revision_.reset();
     Carry([&] {
-        if (!control.Reachable()) return;
+        if (!reachable) return;
         if (control.TakesFocus()) form_.focus = &control;
         action();
     });
@@ -154,15 +156,25 @@ void FormDialog::Act(Control& control, const std::function<void()>& action) {
 void FormDialog::Carry(const std::function<void()>& action) {
     // Handlers run the loop of events, in which the owner of the dialog may go and take it along.
     const QPointer<FormDialog> self = this;
-    if (form_.Open()) action();
+    try {
+        if (form_.Open()) action();
+    } catch (...) {
+        // The toolkit's loop lets nothing through, so it waits for whoever showed the form.
+        if (!self) return;
+        failure_ = std::current_exception();
+        return done(Rejected);
+    }
     if (self) Sync();
 }
 
 void FormDialog::PressEnter() {
     Sync();
     if (auto* button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
-    Control* ok = form_.Find("cmdOK");
-    if (ok && ok->kind == ControlKind::Button && ok->Reachable()) Carry([ok] { ok->Press(); });
+    const auto& all = form_.Controls();
+    const auto ok = std::find_if(all.begin(), all.end(), [](const Control* each) {
+        return each->purpose == Purpose::Accept && each->Reachable();
+    });
+    if (ok != all.end()) Carry([&] { (*ok)->Press(); });
 }
 
 void FormDialog::SendKey(const QKeyEvent& event) {
@@ -179,27 +191,23 @@ void FormDialog::OpenMenu(const Menu& menu, QPoint place) {
 }
 
 void FormDialog::SyncWindow() {
-    if (const QString title = TitleText(form_.caption); windowTitle() != title) setWindowTitle(title);
-    if (icon_ != form_.icon) {
-        icon_ = form_.icon;
-        setWindowIcon(QIcon(LoadPicture(icon_)));
-    }
-    if (!isVisible() || PlaceOf(form_) == place_) return;
+    if (caption_.Follow(form_.caption)) setWindowTitle(TitleText(*form_.caption));
+    if (icon_.Follow(form_.icon)) setWindowIcon(QIcon(LoadPicture(*form_.icon)));
+    if (!isVisible() || BoundsOf(form_) == place_) return;
     const Twips twips(*this);
     const QRect wanted(twips.Across(form_.left), twips.Down(form_.top), twips.Across(form_.width),
                        twips.Down(form_.height));
     resize(wanted.size());
     move(wanted.topLeft());
-    place_ = PlaceOf(form_);
+    place_ = BoundsOf(form_);
 }
 
 void FormDialog::SyncFocus() {
     const ShownControl* shown = ShownAt(focusWidget());
     if (form_.focus && shown && form_.focus == &shown->Model()) return;
-    const auto wanted = std::find_if(controls_.begin(), controls_.end(),
-                                     [this](const auto& each) { return &each->Model() == form_.focus; });
-    if (wanted != controls_.end() && form_.focus->Reachable())
-        (*wanted)->Widget().setFocus(Qt::OtherFocusReason);
+    const ShownControl* wanted = ShownFor(form_.focus);
+    if (wanted && form_.focus->Reachable())
+        wanted->Widget().setFocus(Qt::OtherFocusReason);
     else if (shown)
         form_.focus = &shown->Model();
 }
@@ -223,18 +231,33 @@ void FormDialog::Place() {
 void FormDialog::TakePlace() {
     if (!isVisible() || syncing_ || isMaximized()) return;
     const Twips twips(*this);
-    const auto rounded = [](double length) { return static_cast<Long>(std::lround(length)); };
-    form_.left = rounded(twips.FromAcross(x()));
-    form_.top = rounded(twips.FromDown(y()));
-    form_.width = rounded(twips.FromAcross(width()));
-    form_.height = rounded(twips.FromDown(height()));
-    place_ = PlaceOf(form_);
+    form_.left = Rounded(twips.FromAcross(x()));
+    form_.top = Rounded(twips.FromDown(y()));
+    form_.width = Rounded(twips.FromAcross(width()));
+    form_.height = Rounded(twips.FromDown(height()));
+    place_ = BoundsOf(form_);
+}
+
+Bounds FormDialog::PlaceOf(const Control& control) const {
+    const ShownControl* shown = ShownFor(&control);
+    if (!shown) return {};
+    const Twips twips(*this);
+    const QWidget& widget = shown->Widget();
+    const QPoint corner = widget.mapToGlobal(QPoint(0, 0)) - pos();
+    return {Rounded(twips.FromAcross(corner.x())), Rounded(twips.FromDown(corner.y())),
+            Rounded(twips.FromAcross(widget.width())), Rounded(twips.FromDown(widget.height()))};
 }
 
 ShownControl* FormDialog::ShownAt(const QObject* widget) const {
     for (; widget && widget != this; widget = widget->parent())
         for (const auto& shown : controls_)
             if (&shown->Widget() == widget) return shown.get();
+    return nullptr;
+}
+
+ShownControl* FormDialog::ShownFor(const Control* control) const {
+    for (const auto& shown : controls_)
+        if (&shown->Model() == control) return shown.get();
     return nullptr;
 }
 

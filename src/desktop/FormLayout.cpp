@@ -3,62 +3,25 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <algorithm>
-#include <array>
+#include <functional>
 
 #include "desktop/FlowLayout.h"
-#include "text/CodePage.h"
 
 namespace ostrel::desktop {
 
 namespace {
 
 using Controls = std::vector<ShownControl*>;
-using Place = Controls::const_iterator;
 
-bool IsKind(const ShownControl* shown, ControlKind kind) { return shown->Model().kind == kind; }
-
-bool IsChoice(const ShownControl* shown) {
-    return IsKind(shown, ControlKind::CheckBox) || IsKind(shown, ControlKind::OptionButton);
+bool IsSmall(const ShownControl* shown) {
+    return shown->TakenRoom() == Room::Choice || shown->TakenRoom() == Room::Button;
 }
 
-/// What may stand in a row of buttons: a patch of colour does what the button beside it does.
-bool IsButton(const ShownControl* shown) {
-    return IsKind(shown, ControlKind::Button) || IsKind(shown, ControlKind::PictureBox);
+bool IsLarge(const ShownControl& shown) {
+    return shown.TakenRoom() == Room::List || shown.TakenRoom() == Room::Editor;
 }
 
-bool IsLineField(const ShownControl* shown) {
-    if (IsKind(shown, ControlKind::ComboBox)) return true;
-    return IsKind(shown, ControlKind::TextBox) && !static_cast<const TextBox&>(shown->Model()).lines;
-}
-
-bool IsLarge(const ShownControl* shown) {
-    if (IsKind(shown, ControlKind::TextBox)) return static_cast<const TextBox&>(shown->Model()).lines;
-    return IsKind(shown, ControlKind::RichText) || IsKind(shown, ControlKind::ListBox) ||
-           IsKind(shown, ControlKind::Grid);
-}
-
-bool EndsForm(const ShownControl* shown) {
-    static constexpr std::array<TextView, 3> Names{"cmdOK", "cmdCancel", "cmdClose"};
-    return IsKind(shown, ControlKind::Button) &&
-           std::find(Names.begin(), Names.end(), shown->Model().name) != Names.end();
-}
-
-/// Whether a button serves the field before it: "txtColour", "cmdColour" and "picColour" belong together.
-bool Serves(const ShownControl* button, const ShownControl* field) {
-    constexpr std::size_t Prefix = 3;
-    const TextView own = button->Model().name, other = field->Model().name;
-    return IsKind(button, ControlKind::PictureBox) || (own.size() > Prefix && other.size() > Prefix &&
-                                                       EqualText(own.substr(Prefix), other.substr(Prefix)));
-}
-
-/// A label that says what the field behind it is for, where that field has no label of its own.
-bool Introduces(const ShownControl* label, const ShownControl* field) {
-    constexpr std::size_t Short = 30;
-    const Text& caption = static_cast<const Label&>(label->Model()).caption;
-    if (!IsLineField(field) || caption.empty() || caption.size() > Short) return false;
-    return IsKind(field, ControlKind::ComboBox) ? static_cast<const ComboBox&>(field->Model()).label.empty()
-                                                : static_cast<const TextBox&>(field->Model()).label.empty();
-}
+bool Serves(const ShownControl* shown, Purpose purpose) { return shown->Model().purpose == purpose; }
 
 /// Fills one area: the dialog, or a frame in it.
 class Arranger {
@@ -71,12 +34,14 @@ public:
     bool Fill(const Control* container);
 
 private:
-    Place AddField(Place field, Place end, QLabel* heading);
-    void AddFlow(Place from, Place to, int column);
-    void AddLarge(const ShownControl* shown);
-    void AddFrame(const ShownControl* shown);
-    void AddFoot(const Controls& helpers, const Controls& enders);
+    Controls Matching(const std::function<bool(const Control&)>& wanted) const;
+    void AddRow(ShownControl& shown);
+    void AddField(ShownControl& shown, Controls companions);
+    void AddFlow(const Controls& controls);
+    void AddFoot(const Controls& foot);
     void AddWide(QWidget& widget) { grid_.addWidget(&widget, row_++, 0, 1, 2); }
+    /// The row of a control, with those that share it before and behind it.
+    QHBoxLayout* RowOf(ShownControl& shown, const Controls& companions) const;
 
     QGridLayout& grid_;
     const ShownControls& all_;
@@ -84,112 +49,111 @@ private:
     bool grows_ = false;
 };
 
-/// Takes the buttons at the end of the body that serve the whole form and no field.
-Controls TakeHelpers(Controls& body) {
-    const auto firstOfRun = std::find_if_not(body.rbegin(), body.rend(), [](const ShownControl* each) {
-                                return IsButton(each);
-                            }).base();
-    auto first = firstOfRun;
-    if (first != body.begin() && IsLineField(*std::prev(first)))
-        while (first != body.end() && Serves(*first, *std::prev(firstOfRun))) ++first;
-    constexpr std::ptrdiff_t Few = 5;
-    const bool plain = std::all_of(
-        first, body.end(), [](const ShownControl* each) { return IsKind(each, ControlKind::Button); });
-    if (!plain || std::distance(first, body.end()) > Few) return {};
-    const Controls helpers(first, body.end());
-    body.erase(first, body.end());
-    return helpers;
-}
-
 bool Arranger::Fill(const Control* container) {
-    Controls body, enders, helpers;
-    for (const auto& shown : all_) {
-        if (shown->Model().container != container) continue;
-        (!container && EndsForm(shown.get()) ? enders : body).push_back(shown.get());
-    }
-    if (!container) helpers = TakeHelpers(body);
-    for (Place at = body.begin(); at != body.end();) {
-        const Place next = std::next(at);
-        if (IsKind(*at, ControlKind::Label) && next != body.end() && Introduces(*at, *next)) {
-            at = AddField(next, body.end(), static_cast<QLabel*>(&(*at)->Widget()));
-        } else if (IsLineField(*at)) {
-            at = AddField(at, body.end(), (*at)->Heading());
-        } else if (IsChoice(*at)) {
-            const Place end = std::find_if_not(at, Place(body.end()), IsChoice);
-            AddFlow(at, end, 1);
-            at = end;
-        } else if (IsButton(*at)) {
-            const Place end = std::find_if_not(at, Place(body.end()), IsButton);
-            AddFlow(at, end, 0);
-            at = end;
-        } else {
-            if (IsKind(*at, ControlKind::Frame))
-                AddFrame(*at);
-            else if (IsLarge(*at))
-                AddLarge(*at);
-            else
-                AddWide((*at)->Widget());
-            at = next;
+    Controls body, foot;
+    for (ShownControl* shown : Matching([container](const Control& control) {
+             return control.container == container && !control.beside;
+         }))
+        (container || Serves(shown, Purpose::None) ? body : foot).push_back(shown);
+    for (auto at = body.begin(); at != body.end();) {
+        if (!IsSmall(*at)) {
+            AddRow(**at++);
+            continue;
         }
+        const auto end = std::find_if_not(at, body.end(), [first = *at](const ShownControl* each) {
+            return each->TakenRoom() == first->TakenRoom();
+        });
+        AddFlow({at, end});
+        at = end;
     }
     if (!grows_) grid_.setRowStretch(row_++, 1);
-    if (!helpers.empty() || !enders.empty()) AddFoot(helpers, enders);
+    if (!foot.empty()) AddFoot(foot);
     return grows_;
 }
 
-/// Returns the place behind the field and the buttons beside it.
-Place Arranger::AddField(Place field, Place end, QLabel* heading) {
-    auto* row = new QHBoxLayout;
-    // Its own, empty now, may be told later.
-    if ((*field)->Heading() != heading) row->addWidget((*field)->Heading());
-    row->addWidget(&(*field)->Widget(), 1);
-    const Place behind = std::find_if_not(std::next(field), end, IsButton);
-    for (Place beside = std::next(field); beside != behind; ++beside) {
-        (*beside)->MakeCompact();
-        row->addWidget(&(*beside)->Widget());
-    }
-    grid_.addWidget(heading, row_, 0);
-    grid_.addLayout(row, row_++, 1);
-    return behind;
+Controls Arranger::Matching(const std::function<bool(const Control&)>& wanted) const {
+    Controls controls;
+    for (const auto& shown : all_)
+        if (wanted(shown->Model())) controls.push_back(shown.get());
+    return controls;
 }
 
-void Arranger::AddFlow(Place from, Place to, int column) {
+void Arranger::AddRow(ShownControl& shown) {
+    const Control& model = shown.Model();
+    const Controls companions =
+        Matching([&model](const Control& control) { return control.beside == &model; });
+    if (shown.TakenRoom() == Room::Field) return AddField(shown, companions);
+    const bool isFrame = std::any_of(
+        all_.begin(), all_.end(), [&model](const auto& each) { return each->Model().container == &model; });
+    const bool grows = isFrame ? Arranger(shown.Widget(), all_).Fill(&model) : IsLarge(shown);
+    if (shown.Heading()) AddWide(*shown.Heading());
+    // The main text of a form is what its window is made larger for.
+    if (grows) grid_.setRowStretch(row_, shown.TakenRoom() == Room::Editor ? 8 : 1);
+    grows_ = grows_ || grows;
+    if (companions.empty()) return AddWide(shown.Widget());
+    grid_.addLayout(RowOf(shown, companions), row_++, 0, 1, 2);
+}
+
+void Arranger::AddField(ShownControl& shown, Controls companions) {
+    QWidget* heading = shown.Heading();
+    // A label of its own kind stands where the heading would, which is empty then.
+    if (!companions.empty() && companions.front()->TakenRoom() == Room::Row) {
+        heading = &companions.front()->Widget();
+        companions.erase(companions.begin());
+    }
+    QHBoxLayout* row = RowOf(shown, companions);
+    if (shown.Heading() != heading) row->insertWidget(0, shown.Heading());
+    grid_.addWidget(heading, row_, 0);
+    grid_.addLayout(row, row_++, 1);
+}
+
+QHBoxLayout* Arranger::RowOf(ShownControl& shown, const Controls& companions) const {
+    auto* row = new QHBoxLayout;
+    // Beside what is higher than one line, they stand at its top.
+    const Qt::Alignment top = IsLarge(shown) ? Qt::AlignTop : Qt::Alignment();
+    const auto behind = [&](const ShownControl* companion) {
+        for (const auto& each : all_) {
+            if (each.get() == companion) return false;
+            if (each.get() == &shown) return true;
+        }
+        return false;
+    };
+    const auto firstBehind = std::find_if(companions.begin(), companions.end(), behind);
+    const auto add = [&](ShownControl* companion) {
+        companion->MakeCompact();
+        row->addWidget(&companion->Widget(), 0, top);
+    };
+    std::for_each(companions.begin(), firstBehind, add);
+    row->addWidget(&shown.Widget(), 1);
+    std::for_each(firstBehind, companions.end(), add);
+    return row;
+}
+
+void Arranger::AddFlow(const Controls& controls) {
     constexpr int Comfortable = 560;
     auto* flow = new FlowLayout(Comfortable);
-    for (Place at = from; at != to; ++at) {
-        (*at)->MakeCompact();
-        flow->addWidget(&(*at)->Widget());
+    for (ShownControl* each : controls) {
+        each->MakeCompact();
+        flow->addWidget(&each->Widget());
     }
+    // Choices stand below the fields, buttons below their headings.
+    const int column = controls.front()->TakenRoom() == Room::Choice ? 1 : 0;
     grid_.addLayout(flow, row_++, column, 1, 2 - column);
 }
 
-void Arranger::AddLarge(const ShownControl* shown) {
-    if (shown->Heading()) AddWide(*shown->Heading());
-    // The main text of a form is what its window is made larger for.
-    grid_.setRowStretch(row_, IsKind(shown, ControlKind::RichText) ? 8 : 1);
-    AddWide(shown->Widget());
-    grows_ = true;
-}
-
-void Arranger::AddFrame(const ShownControl* shown) {
-    if (Arranger(shown->Widget(), all_).Fill(&shown->Model())) {
-        grid_.setRowStretch(row_, 1);
-        grows_ = true;
-    }
-    AddWide(shown->Widget());
-}
-
-void Arranger::AddFoot(const Controls& helpers, const Controls& enders) {
-    auto* foot = new QHBoxLayout;
-    foot->setContentsMargins(0, grid_.contentsMargins().top() / 2, 0, 0);
+void Arranger::AddFoot(const Controls& foot) {
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, grid_.contentsMargins().top() / 2, 0, 0);
     // Where no OK ends the form, the others are its main actions and stand where the OK would.
     const bool confirmed = std::any_of(
-        enders.begin(), enders.end(), [](const ShownControl* each) { return each->Model().name == "cmdOK"; });
-    if (!confirmed) foot->addStretch();
-    for (const ShownControl* helper : helpers) foot->addWidget(&helper->Widget());
-    if (confirmed) foot->addStretch();
-    for (const ShownControl* ender : enders) foot->addWidget(&ender->Widget());
-    grid_.addLayout(foot, row_++, 0, 1, 2);
+        foot.begin(), foot.end(), [](const ShownControl* each) { return Serves(each, Purpose::Accept); });
+    if (!confirmed) row->addStretch();
+    for (const ShownControl* each : foot)
+        if (Serves(each, Purpose::Footer)) row->addWidget(&each->Widget());
+    if (confirmed) row->addStretch();
+    for (const ShownControl* each : foot)
+        if (!Serves(each, Purpose::Footer)) row->addWidget(&each->Widget());
+    grid_.addLayout(row, row_++, 0, 1, 2);
 }
 
 } // namespace

@@ -16,11 +16,11 @@ using Choices = std::map<const QAction*, MenuItem*>;
 void AddItems(QMenu& menu, const std::vector<MenuItem*>& items, Choices& choices) {
     for (MenuItem* item : items) {
         if (!item->visible) continue;
-        if (item->caption == "-") {
+        if (*item->caption == "-") {
             menu.addSeparator();
             continue;
         }
-        const QString caption = ShownLines(item->caption, ' ');
+        const QString caption = ShownLines(*item->caption, ' ');
         QAction* action = nullptr;
         if (item->items.empty()) {
             action = menu.addAction(caption);

@@ -114,13 +114,17 @@ void LineList::keyPressEvent(QKeyEvent* event) {
 void LineList::mousePressEvent(QMouseEvent* event) {
     // What a double click opened may have taken the release that belonged to it.
     doubled_ = false;
+    pressedFrom_ = currentRow();
     QListWidget::mousePressEvent(event);
 }
 
 void LineList::mouseReleaseEvent(QMouseEvent* event) {
     QListWidget::mouseReleaseEvent(event);
-    const bool click = !std::exchange(doubled_, false) && event->button() == Qt::LeftButton;
-    if (click && itemAt(event->position().toPoint())) Pick();
+    if (std::exchange(doubled_, false)) return;
+    if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()))
+        Pick();
+    else
+        setCurrentRow(pressedFrom_);
 }
 
 void LineList::mouseDoubleClickEvent(QMouseEvent* event) {

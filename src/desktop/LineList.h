@@ -32,6 +32,7 @@ private:
     void Pick();
 
     std::vector<int> columns_;
+    int pressedFrom_ = -1; ///< the chosen line before the button went down
     bool doubled_ = false; ///< the button that goes up now ends a double click
 };
 

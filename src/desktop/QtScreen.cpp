@@ -47,14 +47,15 @@ void QtScreen::ShowModal(Form& form) {
     // On the heap, since the owner deletes the dialog, possibly while it is shown.
     const QPointer<FormDialog> dialog = new FormDialog(form, Window());
     dialog->exec();
+    const std::exception_ptr failure = dialog ? dialog->Failure() : nullptr;
     delete dialog;
+    if (failure) std::rethrow_exception(failure);
 }
 
 MessageAnswer QtScreen::Message(MessageKind kind, const Text& text, const Text& title,
                                 MessageButtons buttons) {
-    // Knows the buttons, their order and the answer of the close box.
+    // Knows the buttons, their order and which of them the close box presses.
     const MessageBox model(kind, text, title, buttons);
-    const TextView harmless = ButtonWord(model.Answer());
     const QPointer<QMessageBox> box =
         new QMessageBox(IconOf(kind), TitleText(title), ShownLines(text), QMessageBox::NoButton, Window());
     box->setTextFormat(Qt::PlainText);
@@ -64,7 +65,7 @@ MessageAnswer QtScreen::Message(MessageKind kind, const Text& text, const Text& 
         button->setObjectName(ToQt(control->name));
         QObject::connect(button, &QPushButton::clicked, button, [control] { control->Press(); });
         if (control == model.Controls().front()) box->setDefaultButton(button);
-        if (control->name == harmless) box->setEscapeButton(button);
+        if (control->purpose == Purpose::Cancel) box->setEscapeButton(button);
     }
     box->exec();
     delete box;

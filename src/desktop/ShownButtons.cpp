@@ -12,10 +12,6 @@ namespace ostrel::desktop {
 
 namespace {
 
-void ShowCaption(QAbstractButton& button, const Text& caption) {
-    if (const QString shown = ShownLines(caption); button.text() != shown) button.setText(shown);
-}
-
 /// A button that can be as narrow as its caption.
 class CaptionButton final : public QPushButton {
 public:
@@ -39,9 +35,10 @@ private:
 class ShownButton final : public ShownControl {
 public:
     ShownButton(Button& button, CaptionButton& push, UserActions& user)
-        : ShownControl(button, push), button_(button), push_(push) {
+        : ShownControl(button, push, Room::Button), button_(button), push_(push) {
         // Enter is the dialog's: the toolkit's own default would be any button.
         push.setAutoDefault(false);
+        push.setDefault(button.purpose == Purpose::Accept);
         QObject::connect(&push, &QPushButton::clicked, &push,
                          [&button, &user] { user.Act(button, [&] { button.Press(); }); });
     }
@@ -49,30 +46,34 @@ public:
     void MakeCompact() override { push_.MakeCompact(); }
 
 protected:
-    void SyncContent() override { ShowCaption(push_, button_.caption); }
+    void SyncContent() override {
+        if (caption_.Follow(button_.caption)) push_.setText(ShownLines(*button_.caption));
+    }
 
 private:
     Button& button_;
     CaptionButton& push_;
+    ShownRevision caption_;
 };
 
 class ShownCheckBox final : public ShownControl {
 public:
     ShownCheckBox(CheckBox& box, QCheckBox& tick, UserActions& user)
-        : ShownControl(box, tick), box_(box), tick_(tick) {
+        : ShownControl(box, tick, Room::Choice), box_(box), tick_(tick) {
         QObject::connect(&tick, &QCheckBox::clicked, &tick,
                          [&box, &user](bool ticked) { user.Act(box, [&] { box.Enter(Flag(ticked)); }); });
     }
 
 protected:
     void SyncContent() override {
-        ShowCaption(tick_, box_.caption);
+        if (caption_.Follow(box_.caption)) tick_.setText(ShownLines(*box_.caption));
         tick_.setChecked(box_.value);
     }
 
 private:
     CheckBox& box_;
     QCheckBox& tick_;
+    ShownRevision caption_;
 };
 
 /// The options that exclude each other, by the number of their group and the frame they lie in.
@@ -90,7 +91,7 @@ QButtonGroup& GroupOf(const OptionButton& option, QWidget& dialog) {
 class ShownOptionButton final : public ShownControl {
 public:
     ShownOptionButton(OptionButton& option, QRadioButton& radio, QButtonGroup& group, UserActions& user)
-        : ShownControl(option, radio), option_(option), radio_(radio), group_(group) {
+        : ShownControl(option, radio, Room::Choice), option_(option), radio_(radio), group_(group) {
         group.addButton(&radio);
         QObject::connect(&radio, &QRadioButton::clicked, &radio,
                          [&option, &user] { user.Act(option, [&] { option.Press(); }); });
@@ -98,7 +99,7 @@ public:
 
 protected:
     void SyncContent() override {
-        ShowCaption(radio_, option_.caption);
+        if (caption_.Follow(option_.caption)) radio_.setText(ShownLines(*option_.caption));
         if (radio_.isChecked() == option_.value) return;
         // A group of the toolkit keeps one chosen for ever; one of the form may have none.
         group_.setExclusive(false);
@@ -110,19 +111,20 @@ private:
     OptionButton& option_;
     QRadioButton& radio_;
     QButtonGroup& group_;
+    ShownRevision caption_;
 };
 
 } // namespace
 
-std::unique_ptr<ShownControl> ShowButton(Button& button, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(Button& button, QWidget& dialog, UserActions& user) {
     return std::make_unique<ShownButton>(button, *new CaptionButton(&dialog), user);
 }
 
-std::unique_ptr<ShownControl> ShowCheckBox(CheckBox& box, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(CheckBox& box, QWidget& dialog, UserActions& user) {
     return std::make_unique<ShownCheckBox>(box, *new QCheckBox(&dialog), user);
 }
 
-std::unique_ptr<ShownControl> ShowOptionButton(OptionButton& option, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(OptionButton& option, QWidget& dialog, UserActions& user) {
     return std::make_unique<ShownOptionButton>(option, *new QRadioButton(&dialog), GroupOf(option, dialog),
                                                user);
 }

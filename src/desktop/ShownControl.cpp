@@ -5,15 +5,18 @@
 
 namespace ostrel::desktop {
 
-ShownControl::ShownControl(Control& control, QWidget& widget) : control_(control), widget_(widget) {
+ShownControl::ShownControl(Control& control, QWidget& widget, Room room)
+    : control_(control), widget_(widget), room_(room) {
     widget_.setObjectName(ToQt(control.name));
 }
 
 void ShownControl::Sync() {
+    if (revision_ == control_.Revision()) return;
+    revision_ = control_.Revision();
     // Only its own flags: the toolkit too hides and disables what lies in a frame.
     if (widget_.isHidden() == control_.visible) widget_.setVisible(control_.visible);
     if (widget_.isEnabledTo(widget_.parentWidget()) != control_.enabled) widget_.setEnabled(control_.enabled);
-    if (const QString tip = TipText(control_.tip); widget_.toolTip() != tip) widget_.setToolTip(tip);
+    if (tip_.Follow(control_.tip)) widget_.setToolTip(TipText(*control_.tip));
     SyncContent();
 }
 
@@ -23,9 +26,9 @@ void ShownControl::AddHeading() {
     heading_->setBuddy(&widget_);
 }
 
-void ShownControl::SyncHeading(const Text& text) {
-    if (const QString shown = ShownLines(text); heading_->text() != shown) heading_->setText(shown);
-    const bool visible = control_.visible && !text.empty();
+void ShownControl::SyncHeading(const Tracked<Text>& text) {
+    if (headingText_.Follow(text)) heading_->setText(ShownLines(*text));
+    const bool visible = control_.visible && !text->empty();
     if (heading_->isHidden() == visible) heading_->setVisible(visible);
     if (heading_->isEnabledTo(heading_->parentWidget()) != control_.enabled)
         heading_->setEnabled(control_.enabled);
@@ -33,31 +36,13 @@ void ShownControl::SyncHeading(const Text& text) {
 
 std::unique_ptr<ShownControl> ShowControl(Control& control, QWidget& dialog, UserActions& user) {
     switch (control.kind) {
-    case ControlKind::Label:
-        return ShowLabel(static_cast<Label&>(control), dialog);
-    case ControlKind::TextBox:
-        return ShowTextBox(static_cast<TextBox&>(control), dialog, user);
-    case ControlKind::RichText:
-        return ShowRichText(static_cast<RichText&>(control), dialog, user);
-    case ControlKind::CheckBox:
-        return ShowCheckBox(static_cast<CheckBox&>(control), dialog, user);
-    case ControlKind::OptionButton:
-        return ShowOptionButton(static_cast<OptionButton&>(control), dialog, user);
-    case ControlKind::ListBox:
-        return ShowListBox(static_cast<ListBox&>(control), dialog, user);
-    case ControlKind::ComboBox:
-        return ShowComboBox(static_cast<ComboBox&>(control), dialog, user);
-    case ControlKind::Button:
-        return ShowButton(static_cast<Button&>(control), dialog, user);
-    case ControlKind::PictureBox:
-        return ShowPicture(static_cast<PictureBox&>(control), dialog, user);
-    case ControlKind::Frame:
-        return ShowFrame(static_cast<FrameBox&>(control), dialog);
-    case ControlKind::Grid:
-        return ShowGrid(static_cast<GridBox&>(control), dialog);
-    case ControlKind::Menu:
-    case ControlKind::MenuItem:
-    case ControlKind::Timer:
+#define SHOWN(Kind)                                                                                          \
+    case ControlKind::Kind:                                                                                  \
+        return Show(static_cast<Kind&>(control), dialog, user);
+#define UNSHOWN(Kind) case ControlKind::Kind:
+#include "ui/ControlKinds.def"
+#undef SHOWN
+#undef UNSHOWN
         break;
     }
     return nullptr;

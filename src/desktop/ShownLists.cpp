@@ -13,17 +13,16 @@ namespace {
 class ShownListBox final : public ShownControl {
 public:
     ShownListBox(ListBox& list, LineList& lines, UserActions& user)
-        : ShownControl(list, lines), list_(list), lines_(lines) {
+        : ShownControl(list, lines, Room::List), list_(list), lines_(lines) {
         lines.onPick = [&list, &user](int line) { user.Act(list, [&] { list.Enter(Long{line}); }); };
         lines.onDoublePress = [&list, &user] { user.Act(list, [&] { list.DoublePress(); }); };
     }
 
 protected:
     void SyncContent() override {
-        if (list_.items != items_) {
-            items_ = list_.items;
+        if (items_.Follow(list_.items)) {
             QStringList shown;
-            for (const Text& item : items_) shown += ToQt(item);
+            for (const Text& item : *list_.items) shown += ToQt(item);
             lines_.Fill(shown);
         }
         if (lines_.currentRow() != list_.index) lines_.setCurrentRow(list_.index);
@@ -32,7 +31,7 @@ protected:
 private:
     ListBox& list_;
     LineList& lines_;
-    std::vector<Text> items_;
+    ShownRevision items_;
 };
 
 /// Rows to read, under a header that stays. The last column takes what the others leave.
@@ -85,28 +84,27 @@ public:
 
 class ShownGrid final : public ShownControl {
 public:
-    ShownGrid(GridBox& grid, GridTable& table) : ShownControl(grid, table), grid_(grid), table_(table) {}
+    ShownGrid(GridBox& grid, GridTable& table)
+        : ShownControl(grid, table, Room::List), grid_(grid), table_(table) {}
 
 protected:
     void SyncContent() override {
-        if (grid_.rows == rows_) return;
-        rows_ = grid_.rows;
-        table_.Fill(rows_);
+        if (rows_.Follow(grid_.rows)) table_.Fill(*grid_.rows);
     }
 
 private:
     GridBox& grid_;
     GridTable& table_;
-    std::vector<std::vector<Text>> rows_;
+    ShownRevision rows_;
 };
 
 } // namespace
 
-std::unique_ptr<ShownControl> ShowListBox(ListBox& list, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(ListBox& list, QWidget& dialog, UserActions& user) {
     return std::make_unique<ShownListBox>(list, *new LineList(&dialog), user);
 }
 
-std::unique_ptr<ShownControl> ShowGrid(GridBox& grid, QWidget& dialog) {
+std::unique_ptr<ShownControl> Show(GridBox& grid, QWidget& dialog, UserActions&) {
     return std::make_unique<ShownGrid>(grid, *new GridTable(&dialog));
 }
 

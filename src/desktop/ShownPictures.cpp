@@ -12,14 +12,15 @@ namespace {
 
 class ShownLabel final : public ShownControl {
 public:
-    ShownLabel(Label& label, QLabel& shown) : ShownControl(label, shown), label_(label), shown_(shown) {
+    ShownLabel(Label& label, QLabel& shown)
+        : ShownControl(label, shown, Room::Row), label_(label), shown_(shown) {
         shown.setTextFormat(Qt::PlainText);
     }
 
 protected:
     void SyncContent() override {
-        const QString text = ShownLines(label_.caption);
-        if (shown_.text() == text) return;
+        if (!caption_.Follow(label_.caption)) return;
+        const QString text = ShownLines(*label_.caption);
         shown_.setText(text);
         // A short text that may wrap would be given a narrow room.
         constexpr int Comfortable = 60;
@@ -29,21 +30,23 @@ protected:
 private:
     Label& label_;
     QLabel& shown_;
+    ShownRevision caption_;
 };
 
 class ShownFrame final : public ShownControl {
 public:
-    ShownFrame(FrameBox& frame, QGroupBox& box) : ShownControl(frame, box), frame_(frame), box_(box) {}
+    ShownFrame(FrameBox& frame, QGroupBox& box)
+        : ShownControl(frame, box, Room::Row), frame_(frame), box_(box) {}
 
 protected:
     void SyncContent() override {
-        if (const QString title = ShownLines(frame_.caption, ' '); box_.title() != title)
-            box_.setTitle(title);
+        if (caption_.Follow(frame_.caption)) box_.setTitle(ShownLines(*frame_.caption, ' '));
     }
 
 private:
     FrameBox& frame_;
     QGroupBox& box_;
+    ShownRevision caption_;
 };
 
 /// A picture, or a patch of colour where there is none. It is a button to the mouse and to the keys.
@@ -96,50 +99,42 @@ private:
 class ShownPicture final : public ShownControl {
 public:
     ShownPicture(PictureBox& picture, PictureView& view, UserActions& user)
-        : ShownControl(picture, view), picture_(picture), view_(view) {
+        : ShownControl(picture, view, Room::Button), picture_(picture), view_(view) {
         view.setFocusPolicy(picture.onClick ? Qt::StrongFocus : Qt::NoFocus);
         if (picture.onClick) view.setCursor(Qt::PointingHandCursor);
         QObject::connect(&view, &QAbstractButton::clicked, &view,
                          [&picture, &user] { user.Act(picture, [&] { picture.Press(); }); });
-        view.Show(Colour());
     }
 
 protected:
     void SyncContent() override {
-        if (colour_ != picture_.colour) {
-            colour_ = picture_.colour;
-            view_.Show(Colour());
-        }
-        if (file_ != picture_.picture) {
-            file_ = picture_.picture;
-            view_.Show(LoadPicture(file_));
-        }
+        if (colour_.Follow(picture_.colour)) view_.Show(Colour());
+        if (file_.Follow(picture_.picture)) view_.Show(LoadPicture(*picture_.picture));
     }
 
 private:
-    /// Red is in the low byte; below 0 stands for no colour.
     QColor Colour() const {
-        if (colour_ < 0) return {};
-        return {colour_ & 0xFF, colour_ >> 8 & 0xFF, colour_ >> 16 & 0xFF};
+        const Long colour = picture_.colour;
+        if (colour < 0) return {};
+        return {colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF};
     }
 
     PictureBox& picture_;
     PictureView& view_;
-    Long colour_ = 0;
-    Picture file_;
+    ShownRevision colour_, file_;
 };
 
 } // namespace
 
-std::unique_ptr<ShownControl> ShowLabel(Label& label, QWidget& dialog) {
+std::unique_ptr<ShownControl> Show(Label& label, QWidget& dialog, UserActions&) {
     return std::make_unique<ShownLabel>(label, *new QLabel(&dialog));
 }
 
-std::unique_ptr<ShownControl> ShowFrame(FrameBox& frame, QWidget& dialog) {
+std::unique_ptr<ShownControl> Show(FrameBox& frame, QWidget& dialog, UserActions&) {
     return std::make_unique<ShownFrame>(frame, *new QGroupBox(&dialog));
 }
 
-std::unique_ptr<ShownControl> ShowPicture(PictureBox& picture, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(PictureBox& picture, QWidget& dialog, UserActions& user) {
     return std::make_unique<ShownPicture>(picture, *new PictureView(&dialog), user);
 }
 

@@ -21,7 +21,8 @@ Long SizeOf(const Text& text) { return static_cast<Long>(text.size()); }
 class ShownRichText final : public ShownControl, private TextKeeper {
 public:
     ShownRichText(RichText& text, MainTextEdit& edit, UserActions& user)
-        : ShownControl(text, edit), text_(text), edit_(edit), user_(user), lines_(*edit.document()) {
+        : ShownControl(text, edit, Room::Editor), text_(text), edit_(edit), user_(user),
+          lines_(*edit.document()) {
         edit.keeper = this;
         edit.setUndoRedoEnabled(false);
         edit.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -208,7 +209,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<ShownControl> ShowRichText(RichText& text, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(RichText& text, QWidget& dialog, UserActions& user) {
     return std::make_unique<ShownRichText>(text, *new MainTextEdit(&dialog), user);
 }
 

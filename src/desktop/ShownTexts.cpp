@@ -24,7 +24,7 @@ void ShowLock(QWidget& box, bool locked) {
 class ShownLineBox final : public ShownControl {
 public:
     ShownLineBox(TextBox& box, QLineEdit& edit, UserActions& user)
-        : ShownControl(box, edit), box_(box), edit_(edit) {
+        : ShownControl(box, edit, Room::Field), box_(box), edit_(edit) {
         AddHeading();
         QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&box, &user](const QString& text) {
             user.Act(box, [&] { box.Enter(FromQt(text)); });
@@ -38,7 +38,7 @@ protected:
             edit_.setReadOnly(box_.locked);
             ShowLock(edit_, box_.locked);
         }
-        const QString shown = ToQt(box_.text);
+        const QString shown = ToQt(*box_.text);
         if (edit_.text() == shown) return;
         const int caret = edit_.cursorPosition();
         edit_.setText(shown);
@@ -51,14 +51,19 @@ private:
     QLineEdit& edit_;
 };
 
+/// What the user types is handed over as the text of the box, and the document is touched only where somebody
+/// else has changed that text, so a key compares no texts.
 class ShownLinesBox final : public ShownControl {
 public:
     ShownLinesBox(TextBox& box, QPlainTextEdit& edit, UserActions& user)
-        : ShownControl(box, edit), box_(box), edit_(edit) {
+        : ShownControl(box, edit, Room::List), box_(box), edit_(edit) {
         AddHeading();
         edit.setTabChangesFocus(true);
-        QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [&box, &edit, &user] {
-            user.Act(box, [&] { box.Enter(ModelLines(edit.document()->toRawText())); });
+        QObject::connect(edit.document(), &QTextDocument::contentsChange, &edit,
+                         [this](int at, int, int added) { same_ = same_ && IsInCodePage(at, added); });
+        QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this, &user] {
+            differs_ = true;
+            user.Act(box_, [this] { TakeOver(); });
         });
     }
 
@@ -69,29 +74,46 @@ protected:
             edit_.setReadOnly(box_.locked);
             ShowLock(edit_, box_.locked);
         }
-        QTextDocument& document = *edit_.document();
-        if (revision_ == document.revision() && text_ == box_.text) return;
-        text_ = box_.text;
-        const bool changed = ShowInDocument(document, ShownLines(text_, QChar::ParagraphSeparator));
-        revision_ = document.revision();
-        if (!changed || edit_.hasFocus()) return;
+        const bool changed = text_.Follow(box_.text);
+        if (!differs_ && !changed) return;
+        const bool shown =
+            ShowInDocument(*edit_.document(), ShownLines(*box_.text, QChar::ParagraphSeparator));
+        differs_ = false;
+        same_ = true;
+        if (!shown || edit_.hasFocus()) return;
         // Another text was put there, which starts at its start and has no steps to undo.
         edit_.moveCursor(QTextCursor::Start);
-        document.clearUndoRedoStacks();
-        revision_ = document.revision();
+        edit_.document()->clearUndoRedoStacks();
     }
 
 private:
+    void TakeOver() {
+        const bool entered = box_.Enter(ModelLines(edit_.document()->toRawText()));
+        if (!entered || !same_ || !box_.AsEntered()) return;
+        text_.Follow(box_.text);
+        differs_ = false;
+    }
+
+    bool IsInCodePage(int at, int length) const {
+        QTextCursor added(edit_.document());
+        added.setPosition(at);
+        added.setPosition(std::min(at + length, edit_.document()->characterCount() - 1),
+                          QTextCursor::KeepAnchor);
+        const QString text = added.selectedText();
+        return ShownLines(ModelLines(text), QChar::ParagraphSeparator) == text;
+    }
+
     TextBox& box_;
     QPlainTextEdit& edit_;
-    Text text_;         ///< what the document shows
-    int revision_ = -1; ///< of the document when it showed that
+    ShownRevision text_;
+    bool differs_ = true; ///< the document may show another text than that of `text_`
+    bool same_ = true;    ///< what the user put there has a place in the code page
 };
 
 class ShownComboBox final : public ShownControl {
 public:
     ShownComboBox(ComboBox& box, QComboBox& list, UserActions& user)
-        : ShownControl(box, list), box_(box), list_(list), user_(user) {
+        : ShownControl(box, list, Room::Field), box_(box), list_(list), user_(user) {
         AddHeading();
         list.setInsertPolicy(QComboBox::NoInsert);
         list.setMaxVisibleItems(20);
@@ -103,13 +125,12 @@ protected:
     void SyncContent() override {
         SyncHeading(box_.label);
         if (list_.isEditable() != box_.typing) OpenToTyping();
-        if (box_.items != items_) {
-            items_ = box_.items;
+        if (items_.Follow(box_.items)) {
             list_.clear();
-            for (const Text& item : items_) list_.addItem(ToQt(item));
+            for (const Text& item : *box_.items) list_.addItem(ToQt(item));
         }
         if (list_.currentIndex() != box_.index) list_.setCurrentIndex(box_.index);
-        const QString shown = ToQt(box_.text);
+        const QString shown = ToQt(*box_.text);
         if (!box_.typing) {
             // A text that is none of the lines is seen all the same.
             if (list_.placeholderText() != shown) list_.setPlaceholderText(shown);
@@ -138,17 +159,17 @@ private:
     ComboBox& box_;
     QComboBox& list_;
     UserActions& user_;
-    std::vector<Text> items_;
+    ShownRevision items_;
 };
 
 } // namespace
 
-std::unique_ptr<ShownControl> ShowTextBox(TextBox& box, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(TextBox& box, QWidget& dialog, UserActions& user) {
     if (box.lines) return std::make_unique<ShownLinesBox>(box, *new QPlainTextEdit(&dialog), user);
     return std::make_unique<ShownLineBox>(box, *new QLineEdit(&dialog), user);
 }
 
-std::unique_ptr<ShownControl> ShowComboBox(ComboBox& box, QWidget& dialog, UserActions& user) {
+std::unique_ptr<ShownControl> Show(ComboBox& box, QWidget& dialog, UserActions& user) {
     return std::make_unique<ShownComboBox>(box, *new QComboBox(&dialog), user);
 }
 

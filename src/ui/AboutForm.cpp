@@ -14,7 +14,7 @@ AboutForm::AboutForm(const AboutProgram& program) : Form("frmOstrelBaseAbout", "
     lblDescription.caption = program.description;
     lblDisclaimer.caption = program.disclaimer;
     for (Label* label : {&lblCreated, &lblDescription, &lblDisclaimer})
-        label->visible = !label->caption.empty();
+        label->visible = !label->caption->empty();
 }
 
 } // namespace ostrel

@@ -15,14 +15,14 @@ struct AboutProgram {
 
 class AboutForm final : public Form {
 public:
-    explicit AboutForm(const AboutProgram& program);
+    explicit AboutForm(const AboutProgram& program = {});
 
     Label lblProgram{*this, "lblProgram"};
     Label lblVersion{*this, "lblVersion"};
     Label lblCreated{*this, "lblCreated"};
     Label lblDescription{*this, "lblDescription"};
     Label lblDisclaimer{*this, "lblDisclaimer"};
-    Button cmdOK{*this, "cmdOK", "OK", [this] { Finish(); }};
+    Button cmdOK{*this, "cmdOK", "OK", Purpose::Accept};
 };
 
 } // namespace ostrel

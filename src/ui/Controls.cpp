@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "text/CodePage.h"
 #include "ui/Form.h"
 
 namespace ostrel {
@@ -33,17 +34,17 @@ std::optional<bool> FlagOf(const UserValue& value) {
 } // namespace
 
 Control::Control(Form& form, ControlKind controlKind, std::string_view controlName)
-    : kind(controlKind), name(controlName), form_(form) {
+    : Revised(&form), kind(controlKind), name(controlName), form_(form) {
     form.Register(*this);
 }
 
 Fields Control::Look() const {
-    return {{"visible", Flag(visible)}, {"enabled", Flag(enabled)}, {"tip", tip}};
+    return {{"visible", Flag(bool(visible))}, {"enabled", Flag(bool(enabled))}, {"tip", *tip}};
 }
 
 Fields Label::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"caption", caption});
+    fields.push_back({"caption", *caption});
     return fields;
 }
 
@@ -51,14 +52,26 @@ bool TextBox::Enter(const UserValue& value) {
     const Text* given = std::get_if<Text>(&value);
     if (!given || locked) return false;
     text = *given;
+    entered_ = text.Revision();
     Run(onChange);
     return true;
 }
 
 Fields TextBox::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"text", text});
-    fields.push_back({"locked", Flag(locked)});
+    fields.push_back({"text", *text});
+    fields.push_back({"locked", Flag(bool(locked))});
+    return fields;
+}
+
+void TextBox::Tidy() {
+    if (trims) text = Text(TrimBlanks(*text));
+}
+
+Fields Choice::Look() const {
+    Fields fields = Control::Look();
+    fields.push_back({"caption", *caption});
+    fields.push_back({"value", Flag(bool(value))});
     return fields;
 }
 
@@ -72,13 +85,6 @@ bool CheckBox::Enter(const UserValue& given) {
     if (!flag) return false;
     if (*flag != value) Press();
     return true;
-}
-
-Fields CheckBox::Look() const {
-    Fields fields = Control::Look();
-    fields.push_back({"caption", caption});
-    fields.push_back({"value", Flag(value)});
-    return fields;
 }
 
 void OptionButton::Choose() {
@@ -105,19 +111,12 @@ bool OptionButton::Enter(const UserValue& given) {
     return true;
 }
 
-Fields OptionButton::Look() const {
-    Fields fields = Control::Look();
-    fields.push_back({"caption", caption});
-    fields.push_back({"value", Flag(value)});
-    return fields;
-}
-
 void ListBox::Press() { Run(onClick); }
 
 void ListBox::DoublePress() { Run(onDoubleClick ? onDoubleClick : onClick); }
 
 bool ListBox::Enter(const UserValue& value) {
-    const Long line = LineOf(items, value);
+    const Long line = LineOf(*items, value);
     if (line < 0) return false;
     index = line;
     Run(onClick);
@@ -126,20 +125,20 @@ bool ListBox::Enter(const UserValue& value) {
 
 Fields ListBox::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"items", items});
-    fields.push_back({"index", index});
+    fields.push_back({"items", *items});
+    fields.push_back({"index", *index});
     return fields;
 }
 
 void ComboBox::Show(Long line) {
-    const bool there = line >= 0 && line < static_cast<Long>(items.size());
+    const bool there = line >= 0 && line < static_cast<Long>(items->size());
     index = there ? line : -1;
-    if (there) text = items[static_cast<std::size_t>(line)];
+    if (there) text = (*items)[static_cast<std::size_t>(line)];
 }
 
 bool ComboBox::Enter(const UserValue& value) {
     if (locked) return false;
-    const Long line = LineOf(items, value);
+    const Long line = LineOf(*items, value);
     if (line >= 0) {
         Show(line);
         Run(onClick);
@@ -155,18 +154,25 @@ bool ComboBox::Enter(const UserValue& value) {
 
 Fields ComboBox::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"text", text});
-    fields.push_back({"locked", Flag(locked)});
-    fields.push_back({"items", items});
-    fields.push_back({"index", index});
+    fields.push_back({"text", *text});
+    fields.push_back({"locked", Flag(bool(locked))});
+    fields.push_back({"items", *items});
+    fields.push_back({"index", *index});
     return fields;
 }
 
-void Button::Press() { Run(onClick); }
+void Button::Press() {
+    if (onClick)
+        onClick();
+    else if (purpose == Purpose::Accept)
+        form_.Finish();
+    else if (purpose == Purpose::Cancel)
+        form_.CloseBox();
+}
 
 Fields Button::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"caption", caption});
+    fields.push_back({"caption", *caption});
     return fields;
 }
 
@@ -174,20 +180,24 @@ void PictureBox::Press() { Run(onClick); }
 
 Fields FrameBox::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"caption", caption});
+    fields.push_back({"caption", *caption});
     return fields;
 }
 
 Fields GridBox::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"rows", rows});
+    fields.push_back({"rows", *rows});
     return fields;
+}
+
+Menu::Menu(Form& form, std::string_view controlName) : Control(form, ControlKind::Menu, controlName) {
+    form.RegisterPopup(*this);
 }
 
 std::vector<Text> Menu::Entries() const {
     std::vector<Text> captions;
     for (const MenuItem* item : items)
-        if (item->visible) captions.push_back(item->caption);
+        if (item->visible) captions.push_back(*item->caption);
     return captions;
 }
 
@@ -198,14 +208,14 @@ Fields Menu::Look() const {
 }
 
 MenuItem::MenuItem(Form& form, Menu& menu, std::string_view controlName, Text text, Handler clicked)
-    : Control(form, ControlKind::MenuItem, controlName), caption(std::move(text)),
+    : Control(form, ControlKind::MenuItem, controlName), caption(*this, std::move(text)),
       onClick(std::move(clicked)) {
     container = &menu;
     menu.items.push_back(this);
 }
 
 MenuItem::MenuItem(Form& form, MenuItem& parent, std::string_view controlName, Text text, Handler clicked)
-    : Control(form, ControlKind::MenuItem, controlName), caption(std::move(text)),
+    : Control(form, ControlKind::MenuItem, controlName), caption(*this, std::move(text)),
       onClick(std::move(clicked)) {
     container = &parent;
     parent.items.push_back(this);
@@ -215,7 +225,7 @@ void MenuItem::Press() { Run(onClick); }
 
 Fields MenuItem::Look() const {
     Fields fields = Control::Look();
-    fields.push_back({"caption", caption});
+    fields.push_back({"caption", *caption});
     return fields;
 }
 
@@ -229,11 +239,11 @@ void FormTimer::Stop() {
     if (timer_) timer_->Stop();
 }
 
-void FormTimer::Arm(Clock& clock) {
+void FormTimer::BeginShow(Clock& clock) {
     timer_ = clock.MakeTimer([this] { Run(onTick); });
     if (enabled) timer_->Start(interval, true);
 }
 
-Fields FormTimer::Look() const { return {{"enabled", Flag(enabled)}}; }
+Fields FormTimer::Look() const { return {{"enabled", Flag(bool(enabled))}}; }
 
 } // namespace ostrel

@@ -12,8 +12,8 @@ namespace ostrel {
 class Label final : public Control {
 public:
     Label(Form& form, std::string_view controlName, Text text = {})
-        : Control(form, ControlKind::Label, controlName), caption(std::move(text)) {}
-    Text caption;
+        : Control(form, ControlKind::Label, controlName), caption(*this, std::move(text)) {}
+    Tracked<Text> caption;
     Fields Look() const override;
     bool TakesFocus() const override { return false; }
 };
@@ -22,49 +22,65 @@ public:
 class TextBox final : public Control {
 public:
     TextBox(Form& form, std::string_view controlName, Text labelText = {}, Handler changed = {})
-        : Control(form, ControlKind::TextBox, controlName), label(std::move(labelText)),
+        : Control(form, ControlKind::TextBox, controlName), label(*this, std::move(labelText)),
           onChange(std::move(changed)) {}
-    Text label;
-    Text text;
-    bool locked = false;
+    Tracked<Text> label;
+    Tracked<Text> text{*this};
+    Tracked<bool> locked{*this};
+    /// Of several lines, which end in CR LF. Said once, before the form is shown.
     bool lines = false;
+    /// Whether blanks at both ends go before the form takes the text.
+    bool trims = true;
     Handler onChange;
     bool Enter(const UserValue& value) override;
+    /// Whether the text is still what the user entered last.
+    bool AsEntered() const { return entered_ == text.Revision(); }
     Fields Look() const override;
+    void Tidy() override;
+
+private:
+    std::uint64_t entered_ = 0;
 };
 
-/// A square to tick. `letter` is what it adds to the form's option letters; 0 for none.
-class CheckBox final : public Control {
+/// What can be ticked, with a caption beside it.
+class Choice : public Control {
+public:
+    Choice(Form& form, ControlKind choiceKind, std::string_view controlName, Text text, char optionLetter,
+           Handler clicked)
+        : Control(form, choiceKind, controlName), caption(*this, std::move(text)),
+          onClick(std::move(clicked)) {
+        letter = optionLetter;
+    }
+    Tracked<Text> caption;
+    Tracked<bool> value{*this};
+    Handler onClick;
+    Fields Look() const override;
+    bool Ticked() const override { return value; }
+    void Tick(bool ticked) override { value = ticked; }
+};
+
+/// A square to tick.
+class CheckBox final : public Choice {
 public:
     CheckBox(Form& form, std::string_view controlName, Text text, char optionLetter = 0, Handler clicked = {})
-        : Control(form, ControlKind::CheckBox, controlName), caption(std::move(text)), letter(optionLetter),
-          onClick(std::move(clicked)) {}
-    Text caption;
-    bool value = false;
-    char letter;
-    Handler onClick;
+        : Choice(form, ControlKind::CheckBox, controlName, std::move(text), optionLetter,
+                 std::move(clicked)) {}
     void Press() override;
     bool Enter(const UserValue& given) override;
-    Fields Look() const override;
 };
 
 /// One of several choices; those of one group and one container exclude each other.
-class OptionButton final : public Control {
+class OptionButton final : public Choice {
 public:
     OptionButton(Form& form, std::string_view controlName, Text text, char optionLetter = 0,
                  Handler clicked = {})
-        : Control(form, ControlKind::OptionButton, controlName), caption(std::move(text)),
-          letter(optionLetter), onClick(std::move(clicked)) {}
-    Text caption;
-    bool value = false;
-    char letter;
+        : Choice(form, ControlKind::OptionButton, controlName, std::move(text), optionLetter,
+                 std::move(clicked)) {}
     int group = 0;
-    Handler onClick;
     /// Chooses this one and clears the others of its group.
     void Choose();
     void Press() override;
     bool Enter(const UserValue& given) override;
-    Fields Look() const override;
 };
 
 /// Lines to pick from. `index` counts from 0, -1 for none.
@@ -74,8 +90,8 @@ public:
                      Handler doubleClicked = {})
         : Control(form, ControlKind::ListBox, controlName), onClick(std::move(clicked)),
           onDoubleClick(std::move(doubleClicked)) {}
-    std::vector<Text> items;
-    Long index = -1;
+    Tracked<std::vector<Text>> items{*this};
+    Tracked<Long> index{*this, -1};
     Handler onClick;
     Handler onDoubleClick;
     void Press() override;
@@ -89,14 +105,14 @@ class ComboBox final : public Control {
 public:
     ComboBox(Form& form, std::string_view controlName, Text labelText = {}, bool openToTyping = true,
              Handler clicked = {}, Handler changed = {})
-        : Control(form, ControlKind::ComboBox, controlName), label(std::move(labelText)),
-          typing(openToTyping), onClick(std::move(clicked)), onChange(std::move(changed)) {}
-    Text label;
-    Text text;
-    std::vector<Text> items;
-    Long index = -1;
-    bool typing;
-    bool locked = false;
+        : Control(form, ControlKind::ComboBox, controlName), label(*this, std::move(labelText)),
+          typing(*this, openToTyping), onClick(std::move(clicked)), onChange(std::move(changed)) {}
+    Tracked<Text> label;
+    Tracked<Text> text{*this};
+    Tracked<std::vector<Text>> items{*this};
+    Tracked<Long> index{*this, -1};
+    Tracked<bool> typing;
+    Tracked<bool> locked{*this};
     Handler onClick;
     Handler onChange;
     /// Shows that line, with no handler run; -1 for none.
@@ -105,12 +121,17 @@ public:
     Fields Look() const override;
 };
 
+/// A button to press. Without a handler it does what it is for.
 class Button final : public Control {
 public:
     Button(Form& form, std::string_view controlName, Text text, Handler clicked = {})
-        : Control(form, ControlKind::Button, controlName), caption(std::move(text)),
+        : Control(form, ControlKind::Button, controlName), caption(*this, std::move(text)),
           onClick(std::move(clicked)) {}
-    Text caption;
+    Button(Form& form, std::string_view controlName, Text text, Purpose buttonPurpose, Handler clicked = {})
+        : Button(form, controlName, std::move(text), std::move(clicked)) {
+        purpose = buttonPurpose;
+    }
+    Tracked<Text> caption;
     Handler onClick;
     void Press() override;
     Fields Look() const override;
@@ -121,8 +142,9 @@ class PictureBox final : public Control {
 public:
     PictureBox(Form& form, std::string_view controlName, Handler clicked = {})
         : Control(form, ControlKind::PictureBox, controlName), onClick(std::move(clicked)) {}
-    Picture picture;
-    Long colour = 0;
+    Tracked<Picture> picture{*this};
+    /// Red is in the low byte; below 0 for none.
+    Tracked<Long> colour{*this};
     Handler onClick;
     void Press() override;
 };
@@ -131,8 +153,8 @@ public:
 class FrameBox final : public Control {
 public:
     FrameBox(Form& form, std::string_view controlName, Text text = {})
-        : Control(form, ControlKind::Frame, controlName), caption(std::move(text)) {}
-    Text caption;
+        : Control(form, ControlKind::FrameBox, controlName), caption(*this, std::move(text)) {}
+    Tracked<Text> caption;
     Fields Look() const override;
     bool TakesFocus() const override { return false; }
 };
@@ -140,8 +162,8 @@ public:
 /// Rows of texts, the header row first.
 class GridBox final : public Control {
 public:
-    GridBox(Form& form, std::string_view controlName) : Control(form, ControlKind::Grid, controlName) {}
-    std::vector<std::vector<Text>> rows;
+    GridBox(Form& form, std::string_view controlName) : Control(form, ControlKind::GridBox, controlName) {}
+    Tracked<std::vector<std::vector<Text>>> rows{*this};
     Fields Look() const override;
 };
 
@@ -150,7 +172,7 @@ class MenuItem;
 /// A menu that a right click on the main text opens. An item may carry a menu of its own.
 class Menu final : public Control {
 public:
-    Menu(Form& form, std::string_view controlName) : Control(form, ControlKind::Menu, controlName) {}
+    Menu(Form& form, std::string_view controlName);
     std::vector<MenuItem*> items;
     /// The captions of the visible items; "-" for a separator.
     std::vector<Text> Entries() const;
@@ -163,7 +185,7 @@ public:
     MenuItem(Form& form, Menu& menu, std::string_view controlName, Text text, Handler clicked = {});
     /// An item inside another item's sub-menu.
     MenuItem(Form& form, MenuItem& parent, std::string_view controlName, Text text, Handler clicked = {});
-    Text caption;
+    Tracked<Text> caption;
     std::vector<MenuItem*> items;
     Handler onClick;
     void Press() override;
@@ -175,7 +197,8 @@ public:
 class FormTimer final : public Control {
 public:
     FormTimer(Form& form, std::string_view controlName, Long milliseconds, Handler ticked)
-        : Control(form, ControlKind::Timer, controlName), interval(milliseconds), onTick(std::move(ticked)) {
+        : Control(form, ControlKind::FormTimer, controlName), interval(milliseconds),
+          onTick(std::move(ticked)) {
         enabled = false;
     }
     Long interval;
@@ -183,15 +206,13 @@ public:
     /// Starts its count afresh; while the form is not shown yet, it starts with the form.
     void Start();
     void Stop();
-    bool Running() const { return timer_ && timer_->Running(); }
     Fields Look() const override;
     bool TakesFocus() const override { return false; }
+    void BeginShow(Clock& clock) override;
+    void EndShow() override { timer_.reset(); }
+    Long Due() const override { return timer_ && timer_->Running() ? interval : 0; }
 
 private:
-    friend class Form;
-    void Arm(Clock& clock);
-    void Disarm() { timer_.reset(); }
-
     std::unique_ptr<Timer> timer_;
 };
 

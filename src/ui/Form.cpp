@@ -1,75 +1,43 @@
 #include "ui/Form.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <limits>
 
 #include "text/CodePage.h"
 
 namespace ostrel {
 
-namespace {
-
-/// The letter and the state of a check box or option button; null for other kinds and where it has no letter.
-bool* LetteredValue(Control& control, char& letter) {
-    bool* value = nullptr;
-    if (control.kind == ControlKind::CheckBox) {
-        auto& box = static_cast<CheckBox&>(control);
-        letter = box.letter;
-        value = &box.value;
-    } else if (control.kind == ControlKind::OptionButton) {
-        auto& option = static_cast<OptionButton&>(control);
-        letter = option.letter;
-        value = &option.value;
+/// The time in which a form is on the screen. It ends however showing it ends.
+class Form::Showing {
+public:
+    Showing(Form& form, Platform& platform) : form_(form) {
+        form_.platform_ = &platform;
+        form_.accepted_ = false;
+        form_.open_ = true;
+        for (Control* control : form_.controls_) {
+            if (!form_.focus && control->TakesFocus() && control->Reachable()) form_.focus = control;
+            control->BeginShow(*platform.clock);
+        }
     }
-    return value && letter ? value : nullptr;
-}
+    ~Showing() {
+        form_.open_ = false;
+        for (Control* control : form_.controls_) control->EndShow();
+    }
+    Showing(const Showing&) = delete;
+    Showing& operator=(const Showing&) = delete;
 
-/// Lengths come from the host and may be anything; they are added in 64 bits and kept within 32.
-Long KeepWithin(std::int64_t place, Long start) {
-    return static_cast<Long>(std::clamp<std::int64_t>(place, start, std::numeric_limits<Long>::max()));
-}
+private:
+    Form& form_;
+};
 
-Long FitOneWay(Long place, Long size, Long start, Long room) {
-    return KeepWithin(std::min<std::int64_t>(place, std::int64_t{start} + room - size), start);
-}
-
-Long CentreOneWay(Long size, Long start, Long room) {
-    return KeepWithin(start + (std::int64_t{room} - size) / 2, start);
-}
-
-} // namespace
-
-Bounds FitOnScreen(Bounds form, const Bounds& area) {
-    form.left = FitOneWay(form.left, form.width, area.left, area.width);
-    form.top = FitOneWay(form.top, form.height, area.top, area.height);
-    return form;
-}
-
-Bounds CentreOnScreen(Bounds form, const Bounds& area) {
-    form.left = CentreOneWay(form.width, area.left, area.width);
-    form.top = CentreOneWay(form.height, area.top, area.height);
-    return form;
-}
-
-Form::Form(std::string_view formName, Text formCaption) : name(formName), caption(std::move(formCaption)) {}
+Form::Form(std::string_view formName, Text formCaption)
+    : name(formName), caption(*this, std::move(formCaption)) {}
 
 bool Form::Show(Platform& platform) {
-    platform_ = &platform;
-    accepted_ = false;
-    open_ = true;
-    const Bounds place = FitOnScreen({left, top, width, height}, platform.screen->Area());
-    left = place.left;
-    top = place.top;
-    for (Control* control : controls_) {
-        if (!focus && control->TakesFocus() && control->Reachable()) focus = control;
-        if (control->kind == ControlKind::Timer) static_cast<FormTimer&>(*control).Arm(*platform.clock);
+    {
+        const Showing showing(*this, platform);
+        Load();
+        if (open_) platform.screen->ShowModal(*this);
     }
-    Load();
-    if (open_) platform.screen->ShowModal(*this);
-    open_ = false;
-    for (Control* control : controls_)
-        if (control->kind == ControlKind::Timer) static_cast<FormTimer&>(*control).Disarm();
     Unload();
     return accepted_;
 }
@@ -80,18 +48,12 @@ Control* Form::Find(std::string_view controlName) const {
     return nullptr;
 }
 
-RichText* Form::MainText() const {
-    for (Control* control : controls_)
-        if (control->kind == ControlKind::RichText) return static_cast<RichText*>(control);
-    return nullptr;
-}
-
 FieldValue Form::Look(std::string_view field) const {
-    if (field == "caption") return caption;
-    if (field == "left") return left;
-    if (field == "top") return top;
-    if (field == "width") return width;
-    if (field == "height") return height;
+    if (field == "caption") return *caption;
+    if (field == "left") return *left;
+    if (field == "top") return *top;
+    if (field == "width") return *width;
+    if (field == "height") return *height;
     if (field == "focus") return focus ? focus->name : Text();
     return {};
 }
@@ -108,11 +70,7 @@ void Form::Key(const KeyStroke& stroke) {
 }
 
 void Form::Finish() {
-    for (Control* control : controls_) {
-        if (control->kind != ControlKind::TextBox) continue;
-        auto& box = static_cast<TextBox&>(*control);
-        box.text = Text(TrimBlanks(box.text));
-    }
+    for (Control* control : controls_) control->Tidy();
     if (!Accept()) return;
     accepted_ = true;
     open_ = false;
@@ -120,32 +78,24 @@ void Form::Finish() {
 
 bool Form::Fault(Control& faulty, const Text& message) {
     if (platform_)
-        platform_->screen->Message(MessageKind::Error, message, caption + " Error", MessageButtons::Ok);
+        platform_->screen->Message(MessageKind::Error, message, *caption + " Error", MessageButtons::Ok);
     focus = &faulty;
     return false;
 }
 
 Text Form::Options(TextView letters) const {
     Text options;
-    for (const char wanted : letters) {
-        for (Control* control : controls_) {
-            char letter = 0;
-            const bool* value = LetteredValue(*control, letter);
-            if (value && *value && letter == wanted) {
-                options += wanted;
-                break;
-            }
-        }
-    }
+    for (const char letter : letters)
+        if (std::any_of(controls_.begin(), controls_.end(), [letter](const Control* control) {
+                return control->letter == letter && control->Ticked();
+            }))
+            options += letter;
     return options;
 }
 
 void Form::SetOptions(TextView options) {
-    for (Control* control : controls_) {
-        char letter = 0;
-        if (bool* value = LetteredValue(*control, letter))
-            *value = FindText(options, TextView(&letter, 1)) != NotFound;
-    }
+    for (Control* control : controls_)
+        if (control->letter) control->Tick(FindText(options, TextView(&control->letter, 1)) != NotFound);
 }
 
 } // namespace ostrel

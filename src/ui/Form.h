@@ -1,11 +1,11 @@
 #pragma once
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "platform/Platform.h"
 #include "ui/Controls.h"
+#include "ui/Placement.h"
 #include "ui/RichText.h"
 
 namespace ostrel {
@@ -18,29 +18,32 @@ struct KeyStroke {
     bool alt = false;
 };
 
-/// Where a form of that size stands so that it lies on the screen; one that is larger sticks to the top left.
-Bounds FitOnScreen(Bounds form, const Bounds& area);
-/// The same in the middle of the screen.
-Bounds CentreOnScreen(Bounds form, const Bounds& area);
+struct Dialogs;
 
-/// A window as a model: named controls and their handlers, no pixels. A screen shows it, a user works it.
-class Form {
+/// The window in which a form is shown, as far as other forms ask about it.
+class FormWindow {
+public:
+    virtual ~FormWindow() = default;
+    /// The place of a control in twips, from the top left corner of the window with its frame.
+    virtual Bounds PlaceOf(const Control& control) const = 0;
+};
+
+/// A window as a model: named controls and their handlers, no pixels. `ShowDialog` shows it, a user works it.
+class Form : public Revised {
 public:
     Form(std::string_view formName, Text formCaption);
     virtual ~Form() = default;
-    Form(const Form&) = delete;
-    Form& operator=(const Form&) = delete;
 
     const Text name;
-    Text caption;
-    Long left = 0, top = 0, width = 0, height = 0;
-    Picture icon;
+    Tracked<Text> caption;
+    /// On the screen, in twips. They follow the window.
+    Tracked<Long> left{*this}, top{*this}, width{*this}, height{*this};
+    Tracked<Picture> icon{*this};
+    /// Whether the window stays above all others, from when it is shown.
     bool onTop = false;
     /// The control with the focus; null for none.
-    Control* focus = nullptr;
+    Tracked<Control*> focus{*this};
 
-    /// Shows it modally and returns when it is closed: whether it was accepted.
-    bool Show(Platform& platform);
     bool Open() const { return open_; }
     bool Accepted() const { return accepted_; }
 
@@ -48,7 +51,9 @@ public:
     const std::vector<Control*>& Controls() const { return controls_; }
     Control* Find(std::string_view controlName) const;
     /// The text that keys and selections go to; null in a form without one.
-    RichText* MainText() const;
+    RichText* MainText() const { return mainText_; }
+    /// The menu that a right click on the main text opens; null in a form without one.
+    const Menu* Popup() const { return popup_; }
     /// A field of the form itself: `caption`, its place, the control with the focus.
     virtual FieldValue Look(std::string_view field) const;
 
@@ -58,9 +63,18 @@ public:
     /// Brings menu entries up to date before a user sees them.
     virtual void PrepareMenu() {}
     virtual void CloseBox() { Close(); }
+    /// The OK of a dialog: puts in order what was entered, then closes with success if `Accept` agrees.
+    void Finish();
 
-    /// Called by each control as it is built.
+    // Called by the controls as they are built.
+
     void Register(Control& control) { controls_.push_back(&control); }
+    void RegisterMainText(RichText& text) { mainText_ = &text; }
+    void RegisterPopup(const Menu& menu) { popup_ = &menu; }
+
+    /// Set by what shows the form, and null again before that goes.
+    void Window(const FormWindow* window) { window_ = window; }
+    const FormWindow* Window() const { return window_; }
 
 protected:
     /// Before it stands on the screen.
@@ -72,8 +86,6 @@ protected:
     /// True where the form has handled the key itself.
     virtual bool KeyDown(const KeyStroke&) { return false; }
 
-    /// The OK of a dialog: trims every text box, then closes with success if `Accept` agrees.
-    void Finish();
     void Close() { open_ = false; }
     /// Shows the error box, puts the focus on the faulty control, and is False.
     bool Fault(Control& faulty, const Text& message);
@@ -83,11 +95,17 @@ protected:
     /// Ticks and chooses what has its letter in `options`, in any case.
     void SetOptions(TextView options);
 
-    /// Where the form is shown; null before that.
-    Platform* World() const { return platform_; }
+    /// Shows it modally and returns when it is closed: whether it was accepted.
+    bool Show(Platform& platform);
 
 private:
+    class Showing;
+    friend bool ShowDialog(const Dialogs& dialogs, Form& form, const DialogPlace& place);
+
     std::vector<Control*> controls_;
+    RichText* mainText_ = nullptr;
+    const Menu* popup_ = nullptr;
+    const FormWindow* window_ = nullptr;
     Platform* platform_ = nullptr;
     bool open_ = false;
     bool accepted_ = false;

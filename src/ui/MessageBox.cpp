@@ -32,25 +32,28 @@ MessageAnswer HarmlessOf(const std::vector<MessageAnswer>& answers) {
     return Abort;
 }
 
-} // namespace
+/// The words of the buttons, by the answer that they give.
+constexpr std::array<std::string_view, 8> Words{"", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
 
-std::string_view ButtonWord(MessageAnswer answer) {
-    static constexpr std::array<std::string_view, 8> Words{"",      "OK",     "Cancel", "Abort",
-                                                           "Retry", "Ignore", "Yes",    "No"};
-    return Words[static_cast<std::size_t>(answer)];
-}
+} // namespace
 
 MessageBox::MessageBox(MessageKind messageKind, Text message, Text title, MessageButtons buttons)
     : Form("MessageBox", std::move(title)), kind(messageKind), text(std::move(message)) {
     const std::vector<MessageAnswer> answers = AnswersOf(buttons);
     answer_ = HarmlessOf(answers);
     for (const MessageAnswer answer : answers) {
-        const std::string_view word = ButtonWord(answer);
-        buttons_.push_back(std::make_unique<Button>(*this, word, Text(word), [this, answer] {
+        const std::string_view word = Words[static_cast<std::size_t>(answer)];
+        const Purpose purpose = answer == answer_ ? Purpose::Cancel : Purpose::None;
+        buttons_.push_back(std::make_unique<Button>(*this, word, Text(word), purpose, [this, answer] {
             answer_ = answer;
             Close();
         }));
     }
+}
+
+MessageAnswer MessageBox::Ask(Platform& platform) {
+    Show(platform);
+    return answer_;
 }
 
 FieldValue MessageBox::Look(std::string_view field) const {

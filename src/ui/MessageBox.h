@@ -4,10 +4,8 @@
 
 namespace ostrel {
 
-/// The word on the button that gives an answer; empty for `None`.
-std::string_view ButtonWord(MessageAnswer answer);
-
-/// A message with one to three buttons, which are named by their words.
+/// A message with one to three buttons, which are named by their words. The most harmless is the one
+/// to cancel by.
 class MessageBox final : public Form {
 public:
     /// Unknown buttons are a single OK.
@@ -19,6 +17,8 @@ public:
     /// A box that is closed by its close box gives its most harmless answer: No, else Cancel, else OK, else
     /// Abort.
     MessageAnswer Answer() const { return answer_; }
+    /// Shows it on a screen that has no message boxes of its own, and returns the answer.
+    MessageAnswer Ask(Platform& platform);
     FieldValue Look(std::string_view field) const override;
 
 private:

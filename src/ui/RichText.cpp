@@ -2,11 +2,19 @@
 
 #include <algorithm>
 
+#include "ui/Form.h"
+
 namespace ostrel {
+
+RichText::RichText(Form& form, std::string_view controlName)
+    : Control(form, ControlKind::RichText, controlName) {
+    form.RegisterMainText(*this);
+}
 
 bool RichText::Content(TextView text) {
     if (!buffer_.Assign(text)) return false;
     start_ = length_ = 0;
+    Touch();
     if (onChange) onChange();
     return true;
 }
@@ -15,6 +23,7 @@ void RichText::Select(Long start, Long length) {
     start_ = std::clamp<Long>(start, 0, buffer_.Size());
     length_ = std::clamp<Long>(length, 0, buffer_.Size() - start_);
     keys_ = Keys::None;
+    Touch();
     if (onSelect) onSelect();
 }
 
@@ -44,6 +53,7 @@ void RichText::GoBehind(Long at, TextView inserted, Keys keys) {
     length_ = 0;
     keys_ = keys;
     keysRevision_ = buffer_.Revision();
+    Touch();
     if (onChange) onChange();
 }
 
@@ -68,7 +78,13 @@ void RichText::GoBehindChange(std::uint64_t revision) {
     start_ = known ? changes.front().at + changes.front().inserted : std::min(start_, buffer_.Size());
     length_ = 0;
     keys_ = Keys::None;
+    Touch();
     if (onChange) onChange();
+}
+
+void RichText::Colour(Long at, Long length, Long colour) {
+    buffer_.Colour(at, length, colour);
+    Touch();
 }
 
 bool RichText::Enter(const UserValue& value) {
@@ -79,7 +95,7 @@ bool RichText::Enter(const UserValue& value) {
 Fields RichText::Look() const {
     Fields fields = Control::Look();
     fields.push_back({"text", Content()});
-    fields.push_back({"locked", Flag(locked)});
+    fields.push_back({"locked", Flag(bool(locked))});
     fields.push_back({"SelStart", start_});
     fields.push_back({"SelLength", length_});
     fields.push_back({"colours", buffer_.Colours(0, buffer_.Size())});

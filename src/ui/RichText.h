@@ -8,9 +8,9 @@ namespace ostrel {
 /// The main text of an editor: a buffer with a selection. Positions count from 0; lines end in CR LF.
 class RichText final : public Control {
 public:
-    RichText(Form& form, std::string_view controlName) : Control(form, ControlKind::RichText, controlName) {}
+    RichText(Form& form, std::string_view controlName);
 
-    bool locked = false;
+    Tracked<bool> locked{*this};
     Handler onChange;
     Handler onSelect;
 
@@ -46,7 +46,7 @@ public:
     bool Redo();
 
     /// Colours a part of the text; 0 is black. The colours move with the text.
-    void Colour(Long at, Long length, Long colour) { buffer_.Colour(at, length, colour); }
+    void Colour(Long at, Long length, Long colour);
 
     bool Enter(const UserValue& value) override;
     Fields Look() const override;

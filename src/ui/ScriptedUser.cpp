@@ -55,9 +55,7 @@ void ScriptedUser::Attend(Form& form) {
 MessageAnswer ScriptedUser::Answer(MessageKind kind, const Text& text, const Text& title,
                                    MessageButtons buttons) {
     messages_.push_back({kind, text, title});
-    MessageBox box(kind, text, title, buttons);
-    box.Show(platform_);
-    return box.Answer();
+    return MessageBox(kind, text, title, buttons).Ask(platform_);
 }
 
 void ScriptedUser::Carry(Form& form, const UserStep& step) {
@@ -107,9 +105,7 @@ void ScriptedUser::Look(Form& form, const Text& what) {
 void ScriptedUser::LetTimersRun(Form& form) {
     for (Control* control : form.Controls()) {
         if (!form.Open()) return;
-        if (control->kind != ControlKind::Timer) continue;
-        const auto& timer = static_cast<const FormTimer&>(*control);
-        if (timer.Running()) platform_.clock->Wait(timer.interval);
+        if (const Long due = control->Due()) platform_.clock->Wait(due);
     }
 }
 

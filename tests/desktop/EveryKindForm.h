@@ -36,8 +36,8 @@ public:
     }
 
     Label label{*this, "lblText", "Some <text>"};
-    TextBox line{*this, "txtLine", "Line", [this] { log += "line=" + line.text + ";"; }};
-    TextBox lines{*this, "txtLines", "Lines", [this] { log += "lines=" + lines.text + ";"; }};
+    TextBox line{*this, "txtLine", "Line", [this] { log += "line=" + *line.text + ";"; }};
+    TextBox lines{*this, "txtLines", "Lines", [this] { log += "lines=" + *lines.text + ";"; }};
     CheckBox tick{*this, "chkTick", "Tick", 0, [this] { log += Text("tick=") + (tick.value ? "1;" : "0;"); }};
     OptionButton first{*this, "optFirst", "First", 0, Note("first")};
     OptionButton second{*this, "optSecond", "Second", 0, Note("second")};
@@ -47,15 +47,15 @@ public:
                    "cboTyped",
                    "Typed",
                    true,
-                   [this] { log += "pick=" + typed.text + ";"; },
-                   [this] { log += "typed=" + typed.text + ";"; }};
-    ComboBox fixed{*this, "cboFixed", "Fixed", false, [this] { log += "fixed=" + fixed.text + ";"; }};
+                   [this] { log += "pick=" + *typed.text + ";"; },
+                   [this] { log += "typed=" + *typed.text + ";"; }};
+    ComboBox fixed{*this, "cboFixed", "Fixed", false, [this] { log += "fixed=" + *fixed.text + ";"; }};
     Button button{*this, "cmdButton(1)", "&Button", Note("button")};
     PictureBox patch{*this, "picPatch", Note("patch")};
     FrameBox frame{*this, "fraFrame", "Frame"};
-    TextBox inner{*this, "txtInner", "Inner", [this] { log += "inner=" + inner.text + ";"; }};
+    TextBox inner{*this, "txtInner", "Inner", [this] { log += "inner=" + *inner.text + ";"; }};
     GridBox grid{*this, "grdGrid"};
-    Button ok{*this, "cmdOK", "OK", [this] {
+    Button ok{*this, "cmdOK", "OK", Purpose::Accept, [this] {
                   log += "ok;";
                   Finish();
               }};

@@ -12,7 +12,7 @@
 #include "desktop/QtClock.h"
 #include "desktop/QtScreen.h"
 #include "desktop/QtText.h"
-#include "ui/Form.h"
+#include "ui/Dialogs.h"
 
 namespace ostrel::test {
 
@@ -31,7 +31,7 @@ public:
     /// accepted.
     bool Show(Form& form, const std::function<void(QDialog&)>& user) {
         Attend<QDialog>(user);
-        return form.Show(platform);
+        return ShowDialog(dialogs, form, At{form.left, form.top});
     }
 
     /// Calls `user` once the next modal window stands.
@@ -66,6 +66,11 @@ public:
 
     QWidget owner;
     Platform platform;
+    Events events;
+    RunFlags run;
+    Context context{events, platform, run};
+    DialogProperties properties;
+    Dialogs dialogs{context, properties};
 };
 
 } // namespace ostrel::test

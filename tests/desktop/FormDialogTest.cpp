@@ -126,11 +126,11 @@ void FormDialogTest::HandlersChangeOtherControls() {
         form.line.text = "from the button";
         form.list.items = {"delta"};
         form.list.index = 0;
-        form.typed.items.push_back("14pt");
+        form.typed.items.Change().push_back("14pt");
         form.typed.Show(3);
         form.frame.visible = false;
         form.tick.enabled = false;
-        form.grid.rows.resize(2);
+        form.grid.rows.Change().resize(2);
         form.caption = "Other";
         form.button.caption = "Again";
         form.patch.colour = 0x00FF00;
@@ -153,7 +153,7 @@ void FormDialogTest::HandlersChangeOtherControls() {
         QCOMPARE(form.focus->name, Text("txtLine"));
     });
     // What the handler of a box makes of the typed text is what stands there, with the caret where it was.
-    form.line.onChange = [&form] { form.line.text = form.line.text.substr(0, 3); };
+    form.line.onChange = [&form] { form.line.text = form.line.text->substr(0, 3); };
     form.line.text = "abc";
     bench.Show(form, [](QDialog& dialog) {
         auto* edit = FormBench::Find<QLineEdit>(dialog, "txtLine");
@@ -162,6 +162,20 @@ void FormDialogTest::HandlersChangeOtherControls() {
         QTest::keyClicks(edit, "x");
         QCOMPARE(edit->text(), QString("axb"));
         QCOMPARE(edit->cursorPosition(), 2);
+        auto* lines = FormBench::Find<QPlainTextEdit>(dialog, "txtLines");
+        lines->setFocus();
+        FormBench::Commit(lines, QString::fromUtf8("\u03b1"));
+        QCOMPARE(lines->toPlainText(), QString("?one\ntwo"));
+        QTest::keyClicks(lines, "b");
+        QCOMPARE(lines->toPlainText(), QString("?bone\ntwo"));
+    });
+    form.lines.onChange = [&form] { form.lines.text = *form.lines.text + "!"; };
+    bench.Show(form, [](QDialog& dialog) {
+        auto* lines = FormBench::Find<QPlainTextEdit>(dialog, "txtLines");
+        lines->setFocus();
+        QTest::keyClicks(lines, "c");
+        QCOMPARE(lines->toPlainText(), QString("c?bone\ntwo!"));
+        QCOMPARE(lines->textCursor().position(), 1);
     });
 }
 
@@ -206,6 +220,11 @@ void FormDialogTest::ListsTellOneClickOnce() {
         QVERIFY(take().ends_with("double;"));
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(take(), Text("list=1;"));
+        // What is pressed and let go elsewhere is not chosen.
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, place(0));
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, {20, list->viewport()->height() - 3});
+        QCOMPARE(take(), Text());
+        QCOMPARE(list->currentRow(), 1);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place(1));
         QCOMPARE(take(), Text("list=1;"));
     });
@@ -228,7 +247,7 @@ void FormDialogTest::OptionsExcludeEachOtherInTheirGroup() {
         const auto chosen = [&] {
             QString model, shown;
             for (const OptionButton* each : {&form.a, &form.b, &form.c, &form.d, &form.e}) {
-                if (each->value) model += desktop::ToQt(each->caption);
+                if (each->value) model += desktop::ToQt(*each->caption);
                 const auto* radio = dialog.findChild<QRadioButton*>(desktop::ToQt(each->name));
                 if (radio->isChecked()) shown += radio->text();
             }

@@ -7,7 +7,9 @@
 #include <QPushButton>
 #include <cmath>
 #include <memory>
+#include <stdexcept>
 
+#include "bridge/Forms.h"
 #include "desktop/EveryKindForm.h"
 #include "desktop/FormBench.h"
 #include "desktop/Twips.h"
@@ -81,8 +83,8 @@ void FormWindowTest::FaultTakesTheFocusBack() {
         NameForm() : Form("frmName", "Name") {}
         TextBox other{*this, "txtOther", "Other"};
         TextBox name{*this, "txtName", "Name"};
-        Button ok{*this, "cmdOK", "OK", [this] { Finish(); }};
-        bool Accept() override { return !name.text.empty() || Fault(name, "Must Enter a Name."); }
+        Button ok{*this, "cmdOK", "OK", Purpose::Accept};
+        bool Accept() override { return !name.text->empty() || Fault(name, "Must Enter a Name."); }
     };
     FormBench bench;
     NameForm form;
@@ -101,7 +103,7 @@ void FormWindowTest::FaultTakesTheFocusBack() {
         QVERIFY(!dialog.isVisible());
     });
     QVERIFY(accepted);
-    QCOMPARE(form.name.text, Text("me"));
+    QCOMPARE(*form.name.text, Text("me"));
     // The toolkit puts its own title on some platforms.
     QVERIFY2(told.endsWith(": Must Enter a Name.") && told.startsWith("Name Error"), qPrintable(told));
 }
@@ -113,7 +115,7 @@ void FormWindowTest::FormsStandWhereTheySay() {
     form.left = 1500;
     form.top = 600;
     form.width = 7500;
-    form.onTop = true;
+    bench.properties.DialogOnTop = true;
     bench.Show(form, [&](QDialog& dialog) {
         QCOMPARE(dialog.pos(), QPoint(twips.Across(1500), twips.Down(600)));
         QCOMPARE(dialog.width(), twips.Across(7500));
@@ -121,11 +123,12 @@ void FormWindowTest::FormsStandWhereTheySay() {
         QVERIFY(dialog.isModal());
         dialog.resize(dialog.width() + 20, dialog.height() + 30);
         dialog.move(130, 60);
-        QTRY_COMPARE(form.left, Long(std::lround(twips.FromAcross(130))));
-        QCOMPARE(form.height, Long(std::lround(twips.FromDown(dialog.height()))));
+        QTRY_COMPARE(*form.left, Long(std::lround(twips.FromAcross(130))));
+        QCOMPARE(*form.height, Long(std::lround(twips.FromDown(dialog.height()))));
         form.top = 1500;
         QTRY_COMPARE(dialog.y(), twips.Down(1500));
     });
+    bench.properties.DialogOnTop = false;
     EveryKindForm centred;
     bench.Show(centred, [&](QDialog& dialog) {
         QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
@@ -143,18 +146,29 @@ void FormWindowTest::FormsStandWhereTheySay() {
 }
 
 void FormWindowTest::OwnerMayGoFirst() {
+    FormBench bench;
     EveryKindForm form;
     auto owner = std::make_unique<QWidget>();
     owner->show();
-    Platform platform;
-    platform.screen = std::make_unique<desktop::QtScreen>(*owner);
+    bench.platform.screen = std::make_unique<desktop::QtScreen>(*owner);
     bool gone = false;
     QTimer::singleShot(50, [&] {
         owner.reset();
         gone = true;
     });
-    QVERIFY(!form.Show(platform));
+    QVERIFY(!ShowDialog(bench.dialogs, form, At{}));
     QVERIFY(gone);
+}
+
+void FormWindowTest::FailureOfAHandlerReachesTheCaller() {
+    FormBench bench;
+    EveryKindForm form;
+    form.button.onClick = [] { throw std::runtime_error("failed"); };
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error, bench.Show(form, [](QDialog& dialog) {
+        FormBench::Click(dialog, "cmdButton(1)");
+        QVERIFY(!dialog.isVisible());
+    }));
+    QVERIFY(!form.Open());
 }
 
 void FormWindowTest::AboutBox() {
@@ -174,7 +188,12 @@ void FormWindowTest::AboutBox() {
 void FormWindowTest::ControlsAreArranged() {
     class RowsForm final : public Form {
     public:
-        RowsForm() : Form("frmRows", "Rows") { inner.container = &frame; }
+        RowsForm() : Form("frmRows", "Rows") {
+            inner.container = &frame;
+            choose.beside = patch.beside = &colour;
+            before.beside = &unit;
+            up.beside = &lines;
+        }
         TextBox colour{*this, "txtColour", "Colour"};
         Button choose{*this, "cmdColour", "..."};
         PictureBox patch{*this, "picColour"};
@@ -186,9 +205,10 @@ void FormWindowTest::ControlsAreArranged() {
         CheckBox bold{*this, "chkBold", "Bold"};
         CheckBox italic{*this, "chkItalic", "Italic"};
         ListBox lines{*this, "lisLines"};
-        Button clear{*this, "cmdClear", "Clear"};
-        Button ok{*this, "cmdOK", "OK"};
-        Button cancel{*this, "cmdCancel", "Cancel"};
+        Button up{*this, "cmdUp", "Up"};
+        Button clear{*this, "cmdClear", "Clear", Purpose::Footer};
+        Button ok{*this, "cmdEnd", "OK", Purpose::Accept};
+        Button cancel{*this, "cmdCancel", "Cancel", Purpose::Cancel};
     };
     FormBench bench;
     RowsForm form;
@@ -213,10 +233,12 @@ void FormWindowTest::ControlsAreArranged() {
         QVERIFY(place("fraFrame").contains(place("txtInner")));
         QVERIFY(rightOf("chkItalic", "chkBold"));
         QVERIFY(below("chkBold", "fraFrame"));
-        QVERIFY(below("cmdOK", "lisLines"));
-        QVERIFY(rightOf("cmdOK", "cmdClear"));
-        QVERIFY(rightOf("cmdCancel", "cmdOK"));
-        QCOMPARE(place("cmdCancel").right(), place("lisLines").right());
+        QVERIFY(below("cmdEnd", "lisLines"));
+        QVERIFY(rightOf("cmdEnd", "cmdClear"));
+        QVERIFY(rightOf("cmdCancel", "cmdEnd"));
+        QCOMPARE(place("cmdCancel").right(), place("cmdUp").right());
+        QVERIFY(place("cmdUp").left() > place("lisLines").right());
+        QCOMPARE(place("cmdUp").top(), place("lisLines").top());
         // What is hidden leaves no gap, and a list takes what a larger window gives.
         const int before = place("chkBold").top();
         const int height = place("lisLines").height();
@@ -227,6 +249,55 @@ void FormWindowTest::ControlsAreArranged() {
     });
 }
 
+void FormWindowTest::EveryFormCanBeWalked() {
+    FormBench bench;
+    for (const FormMaker make : bridge::FormMakers()) {
+        const std::unique_ptr<Form> form = make();
+        bool walked = false;
+        bench.Show(*form, [&](QDialog& dialog) {
+            QVERIFY(dialog.isVisible());
+            QStringList stops, reached;
+            for (const Control* control : form->Controls()) {
+                const auto* widget = dialog.findChild<QWidget*>(desktop::ToQt(control->name));
+                const bool isStop = control->TakesFocus() && control->Reachable() && widget &&
+                                    widget->focusPolicy() & Qt::TabFocus;
+                if (isStop) stops += desktop::ToQt(control->name);
+            }
+            QVERIFY(!stops.isEmpty());
+            for (qsizetype i = 0; i < stops.size(); ++i) {
+                reached += dialog.focusWidget()->objectName();
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            }
+            QCOMPARE(reached, stops);
+            QCOMPARE(dialog.focusWidget()->objectName(), stops.front());
+            walked = true;
+        });
+        QVERIFY2(walked, form->name.c_str());
+    }
+}
+
+void FormWindowTest::DialogsStandBesideTheirButton() {
+    class SmallForm final : public Form {
+    public:
+        SmallForm() : Form("frmSmall", "Small") {}
+        Button ok{*this, "cmdOK", "OK", Purpose::Accept};
+    };
+    FormBench bench;
+    EveryKindForm form;
+    form.left = form.top = 1500;
+    bench.Show(form, [&](QDialog& dialog) {
+        const desktop::Twips twips(dialog);
+        const QPoint button = FormBench::Find<QWidget>(dialog, "cmdOK")->mapToGlobal(QPoint(0, 0));
+        SmallForm small;
+        FormBench::Attend<QDialog>([&](QDialog& inner) {
+            QVERIFY(qAbs(inner.x() - button.x() - twips.Across(120)) <= 1);
+            QVERIFY(qAbs(inner.y() - button.y() + twips.Down(1200)) <= 1);
+        });
+        ShowDialog(bench.dialogs, small, Beside{form.ok});
+    });
+    QVERIFY(!form.Window());
+}
+
 void FormWindowTest::PicturesAreLoaded() {
     const TemporaryDirectory directory;
     QImage image(30, 20, QImage::Format_RGB32);
@@ -234,7 +305,7 @@ void FormWindowTest::PicturesAreLoaded() {
     QVERIFY(image.save(desktop::ToQt(directory.Path("red.png"))));
     FormBench bench;
     EveryKindForm form;
-    form.patch.picture = form.icon = {directory.Component("red.png")};
+    form.patch.picture = bench.properties.Icon = {directory.Component("red.png")};
     bench.Show(form, [&](QDialog& dialog) {
         auto* view = FormBench::Find<QWidget>(dialog, "picPatch");
         QCOMPARE(view->size(), QSize(30, 20));

@@ -15,7 +15,10 @@ private slots:
     void EnterAndTheCloseBox();
     void FaultTakesTheFocusBack();
     void FormsStandWhereTheySay();
+    void DialogsStandBesideTheirButton();
     void OwnerMayGoFirst();
+    void EveryFormCanBeWalked();
+    void FailureOfAHandlerReachesTheCaller();
     void AboutBox();
 };
 

@@ -1,8 +1,10 @@
 #include <limits>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 
 #include "support/MemoryFiles.h"
+#include "ui/Dialogs.h"
 #include "ui/MessageBox.h"
 #include "ui/ScriptedUser.h"
 
@@ -14,6 +16,7 @@ using Verb = UserStep::Verb;
 /// A form with one of everything.
 struct SampleForm final : Form {
     TextBox txtName{*this, "txtName", "Name"};
+    TextBox txtKept{*this, "txtKept"};
     FrameBox fraMore{*this, "fraMore", "More"};
     CheckBox chkBold{*this, "chkBold", "Bold", 'B'};
     CheckBox chkItalic{*this, "chkItalic", "Italic", 'I'};
@@ -35,20 +38,21 @@ struct SampleForm final : Form {
                             heard += "tick;";
                             tmrChoose.Stop();
                         }};
-    Button cmdOK{*this, "cmdOK", "OK", [this] { Finish(); }};
-    Button cmdCancel{*this, "cmdCancel", "Cancel", [this] { Close(); }};
+    Button cmdOK{*this, "cmdOK", "OK", Purpose::Accept};
+    Button cmdCancel{*this, "cmdCancel", "Cancel", Purpose::Cancel};
     Text heard;
 
     SampleForm() : Form("frmSample", "Sample") {
         for (Control* control : {static_cast<Control*>(&chkBold), static_cast<Control*>(&chkItalic)})
             control->container = &fraMore;
+        txtKept.trims = false;
         lisLines.items = cboFree.items = cboFixed.items = {"one", "two"};
     }
     void PrepareMenu() override {
         mnuCut.enabled = rtfText.SelLength() > 0;
         mnuGone.visible = false;
     }
-    bool Accept() override { return !txtName.text.empty() || Fault(txtName, "Must Enter a Name."); }
+    bool Accept() override { return !txtName.text->empty() || Fault(txtName, "Must Enter a Name."); }
     using Form::Options;
     using Form::SetOptions;
 
@@ -60,15 +64,21 @@ class Forms : public testing::Test {
 protected:
     bool Run(std::vector<UserStep> steps) {
         user.Queue("frmSample", std::move(steps));
-        return form.Show(platform);
+        return ShowDialog(dialogs, form, At{});
     }
     HeadlessPlatform platform = MakeHeadlessPlatform(true, std::make_unique<MemoryFiles>());
     ScriptedUser user{platform};
+    Events events;
+    RunFlags run;
+    Context context{events, platform, run};
+    DialogProperties properties;
+    Dialogs dialogs{context, properties};
     SampleForm form;
 };
 
 TEST_F(Forms, AUserFillsItInAndAccepts) {
     EXPECT_TRUE(Run({{Verb::Set, "txtName", Text("  x ")},
+                     {Verb::Set, "txtKept", Text(" y ")},
                      {Verb::Set, "chkBold", Flag(true)},
                      {Verb::Click, "chkItalic", {}},
                      {Verb::Click, "chkItalic", {}},
@@ -86,12 +96,13 @@ TEST_F(Forms, AUserFillsItInAndAccepts) {
                      {Verb::Click, "nobody", {}},
                      {Verb::Click, "cmdOK", {}},
                      {Verb::Click, "cmdInsert(1)", {}}}));
-    EXPECT_EQ(form.txtName.text, "x");
+    EXPECT_EQ(*form.txtName.text, "x");
+    EXPECT_EQ(*form.txtKept.text, " y ");
     EXPECT_EQ(form.Options("RIBL"), "RB");
-    EXPECT_EQ(form.lisLines.index, 0);
-    EXPECT_EQ(form.cboFree.text, "free");
-    EXPECT_EQ(form.cboFixed.text, "two");
-    EXPECT_EQ(form.cboFixed.index, 1);
+    EXPECT_EQ(*form.lisLines.index, 0);
+    EXPECT_EQ(*form.cboFree.text, "free");
+    EXPECT_EQ(*form.cboFixed.text, "two");
+    EXPECT_EQ(*form.cboFixed.index, 1);
     EXPECT_EQ(form.heard, "click;click;double;3;");
 }
 
@@ -120,8 +131,8 @@ TEST_F(Forms, WhatIsHiddenOrDisabledCannotBeWorked) {
          {Verb::Click, "mnuCut", {}},
          {Verb::Menu, "cmdInsert(1)", {}}});
     EXPECT_EQ(form.Options("B"), "");
-    EXPECT_EQ(form.txtName.text, "");
-    EXPECT_EQ(form.cboFree.text, "");
+    EXPECT_EQ(*form.txtName.text, "");
+    EXPECT_EQ(*form.cboFree.text, "");
     EXPECT_EQ(form.heard, "");
 }
 
@@ -164,7 +175,7 @@ TEST_F(Forms, TimersRunBeforeAFormIsClosed) {
     EXPECT_FALSE(Run({{Verb::Set, "txtName", Text("x")}}));
     EXPECT_EQ(form.heard, "tick;");
     form.tmrChoose.Start();
-    EXPECT_FALSE(form.Show(platform)) << "nobody is queued";
+    EXPECT_FALSE(ShowDialog(dialogs, form, At{})) << "nobody is queued";
     EXPECT_EQ(form.heard, "tick;tick;");
     platform.VirtualTime()->Advance(1000);
     EXPECT_EQ(form.heard, "tick;tick;") << "not without its form";
@@ -173,6 +184,104 @@ TEST_F(Forms, TimersRunBeforeAFormIsClosed) {
 TEST_F(Forms, OptionLettersIgnoreCase) {
     form.SetOptions("xbR");
     EXPECT_EQ(form.Options("BILR"), "BR");
+}
+
+TEST_F(Forms, EndByTheirButtons) {
+    EXPECT_TRUE(Run({{Verb::Set, "txtName", Text("x")}, {Verb::Click, "cmdOK", {}}}));
+    EXPECT_FALSE(Run({{Verb::Click, "cmdCancel", {}}, {Verb::Look, "caption", {}}}));
+    EXPECT_TRUE(user.TakeSeen().empty());
+}
+
+TEST_F(Forms, CountTheChangesOfTheirFields) {
+    auto changed = [&, last = form.Revision()](const Control* control = nullptr) mutable {
+        const bool counted = form.Revision() > last;
+        last = form.Revision();
+        return counted && (!control || control->Revision() == last);
+    };
+    form.txtName.text = Text("a");
+    EXPECT_TRUE(changed(&form.txtName));
+    form.txtName.text = Text("a");
+    EXPECT_FALSE(changed());
+    form.lisLines.items.Change().push_back("three");
+    EXPECT_TRUE(changed(&form.lisLines));
+    EXPECT_LT(form.lisLines.index.Revision(), form.lisLines.items.Revision());
+    form.caption = Text("Other");
+    EXPECT_TRUE(changed());
+    form.rtfText.Content("text");
+    EXPECT_TRUE(changed(&form.rtfText));
+    form.rtfText.Colour(0, 1, 255);
+    EXPECT_TRUE(changed(&form.rtfText));
+    EXPECT_TRUE(form.txtName.Enter(Text("b")) && form.txtName.AsEntered());
+    form.txtName.text = Text("c");
+    EXPECT_FALSE(form.txtName.AsEntered());
+}
+
+TEST_F(Forms, AreShownAsDialogsOfTheComponent) {
+    struct Window final : FormWindow {
+        Bounds PlaceOf(const Control&) const override { return {700, 900, 0, 0}; }
+    } window;
+    platform.Display().Area({0, 0, 9000, 6000});
+    properties.DialogOnTop = true;
+    properties.Icon = {"C:\\a.ico"};
+    events.GetControlPosition.Listen([](Long& top, Long& left) {
+        top = 200;
+        left = 50;
+    });
+    SampleForm owner;
+    owner.left = 1000;
+    owner.top = 2000;
+    struct Row {
+        DialogPlace place;
+        const FormWindow* window;
+        Long left, top;
+    };
+    form.width = 3000;
+    form.height = 1000;
+    const Long most = std::numeric_limits<Long>::max();
+    for (const auto& [place, shownIn, left, top] :
+         std::vector<Row>{{At{.left = 10, .top = 20}, nullptr, 10, 20},
+                          {At{.left = 8000, .top = -5}, nullptr, 6000, 0},
+                          {Centred{}, nullptr, 3000, 2500},
+                          {Beside{owner.cmdOK}, nullptr, 1120, 800},
+                          {Beside{owner.cmdOK}, &window, 1820, 1700},
+                          {FromComponent{.left = 30, .top = 40}, nullptr, 80, 240},
+                          {FromComponent{.left = most, .top = most}, nullptr, 6000, 5000}}) {
+        owner.Window(shownIn);
+        ShowDialog(dialogs, form, place);
+        EXPECT_EQ(*form.left, left);
+        EXPECT_EQ(*form.top, top);
+    }
+    EXPECT_TRUE(form.onTop);
+    EXPECT_EQ(form.icon->path, "C:\\a.ico");
+}
+
+TEST_F(Forms, EventsOfADialogComeInPairs) {
+    std::vector<Text> heard;
+    bool fails = false;
+    events.ListenToAll([&](EventBase& event, std::span<const ArgumentRef> arguments) {
+        heard.push_back(Text(event.Name()) + " " + *std::get<Text*>(arguments[0]));
+        if (fails) throw std::runtime_error("");
+    });
+    const auto flow = [&](bool throws) {
+        const DialogEvents pair(context, "Font");
+        heard.push_back("shown");
+        if (throws) throw std::runtime_error("");
+    };
+    flow(false);
+    EXPECT_THROW(flow(true), std::runtime_error);
+    fails = true;
+    EXPECT_THROW(flow(false), std::runtime_error);
+    EXPECT_EQ(heard, (std::vector<Text>{"DialogOpen Font", "shown", "DialogClose Font", "DialogOpen Font",
+                                        "shown", "DialogClose Font", "DialogOpen Font", "DialogClose Font"}));
+}
+
+TEST_F(Forms, EndWhereAHandlerThrows) {
+    form.lisLines.onClick = [] { throw std::runtime_error(""); };
+    form.tmrChoose.Start();
+    EXPECT_THROW(Run({{Verb::Set, "lisLines", Long{0}}}), std::runtime_error);
+    EXPECT_FALSE(form.Open());
+    platform.VirtualTime()->Advance(1000);
+    EXPECT_EQ(form.heard, "");
 }
 
 TEST(FitOnScreen, TheLaterRuleWins) {
