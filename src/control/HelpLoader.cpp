@@ -14,7 +14,8 @@ HelpLoader::HelpLoader(Guard& guard, Context& context, State& state, PaneNavigat
 
 bool HelpLoader::Locate(const Text& page, Text& location, Text& error) const {
     if (!state_.draft.HelpRemote) {
-        if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp, error)) return false;
+        if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp, error))
+            return false;
         location = services::AddMissingBackslash(state_.service.DirectoryHelp) + page;
         return true;
     }
@@ -50,7 +51,8 @@ bool HelpLoader::LoadInternal(Text& error) {
         error = "No Help Page defined.";
         return false;
     }
-    if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp, error)) return false;
+    if (!help::CheckHelpDirectory(*context_.platform.files, state_.service.DirectoryHelp, error))
+        return false;
     const Text robots = state_.draft.HelpRobots;
     state_.draft.HelpRobots = "NoIndex";
     const Rope page = html::InternalBuild(PageScopeOf(context_, state_), part1, part2, part3);
