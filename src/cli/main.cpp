@@ -4,8 +4,10 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/CallCommand.h"
+#include "cli/IndexCommand.h"
 #include "cli/ReferenceCommand.h"
 #include "cli/ReportCommand.h"
+#include "cli/SearchCommand.h"
 #include "control/Version.h"
 
 int main(int argc, char** argv) {
@@ -21,6 +23,8 @@ int main(int argc, char** argv) {
                                           std::to_string(ostrel::VersionRevision));
     int status = 0;
     ostrel::cli::AddReportCommand(app, status);
+    ostrel::cli::AddSearchCommand(app, status);
+    ostrel::cli::AddIndexCommand(app, status);
     ostrel::cli::AddCallCommand(app, status);
     ostrel::cli::AddReferenceCommand(app, status);
     try {

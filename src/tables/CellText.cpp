@@ -1,5 +1,7 @@
 #include "tables/CellText.h"
 
+#include <algorithm>
+
 #include "services/TagText.h"
 #include "text/CodePage.h"
 #include "text/NumberText.h"
@@ -163,6 +165,15 @@ Text HtmlArgument(std::string_view word) {
     Text plain, html;
     EncodeArgument(word, plain, html);
     return html;
+}
+
+Text HtmlOfPage(std::string_view bytes) {
+    Text html;
+    html.reserve(bytes.size());
+    const auto high = std::find_if(bytes.begin(), bytes.end(), [](char c) { return c < 0; });
+    const std::string_view rest = bytes.substr(static_cast<std::size_t>(high - bytes.begin()));
+    if (GuessEncoding(rest) == TextEncoding::Utf8 && DecodeHtml(bytes, true, html)) return html;
+    return Text(bytes);
 }
 
 } // namespace ostrel::tables

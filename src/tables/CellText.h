@@ -39,4 +39,9 @@ bool EncodeCell(std::string_view value, TextEncoding encoding, Markup markup, Te
 Text PlainArgument(std::string_view word);
 Text HtmlArgument(std::string_view word);
 
+/// A page from outside as HTML of the component: its bytes are UTF-8 or Windows-1252, whichever they look
+/// like, and characters outside the code page become numeric references. Bytes that are no UTF-8 after all
+/// are read as Windows-1252.
+Text HtmlOfPage(std::string_view bytes);
+
 } // namespace ostrel::tables

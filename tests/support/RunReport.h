@@ -18,9 +18,9 @@ struct Outcome {
     std::string out, errors;
 };
 
-/// Runs `ostrel report` in the directory.
-inline Outcome RunReport(const TemporaryDirectory& directory, const std::string& arguments) {
-    const std::string command = "cd '" + directory.Path() + "' && '" + Program + "' report " + arguments +
+/// Runs `ostrel` in the directory.
+inline Outcome RunOstrel(const TemporaryDirectory& directory, const std::string& arguments) {
+    const std::string command = "cd '" + directory.Path() + "' && '" + Program + "' " + arguments +
                                 " >stdout.txt 2>stderr.txt </dev/null";
     const int result = std::system(command.c_str());
     Outcome outcome{WIFEXITED(result) ? WEXITSTATUS(result) : -1, directory.Read("stdout.txt"),
@@ -28,6 +28,10 @@ inline Outcome RunReport(const TemporaryDirectory& directory, const std::string&
     std::filesystem::remove(directory.Path("stdout.txt"));
     std::filesystem::remove(directory.Path("stderr.txt"));
     return outcome;
+}
+
+inline Outcome RunReport(const TemporaryDirectory& directory, const std::string& arguments) {
+    return RunOstrel(directory, "report " + arguments);
 }
 
 } // namespace ostrel::test
