@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "help/HelpForms.h"
+
 namespace ostrel::bridge {
 
 namespace {
@@ -24,7 +26,7 @@ std::vector<FormRow> DescribeForms() {
 
 std::vector<FormMaker> FormMakers() {
     std::vector<FormMaker> makers;
-    for (const std::span<const FormMaker> table : {UiForms()})
+    for (const std::span<const FormMaker> table : {UiForms(), help::HelpForms()})
         makers.insert(makers.end(), table.begin(), table.end());
     return makers;
 }

@@ -20,6 +20,7 @@ std::span<const Family> Families() {
         {"Browser pane", BrowserMembers()},
         {"Progress panel and clock", ProgressMembers()},
         {"Help pages", HelpMembers()},
+        {"Help search, index and printing", HelpServiceMembers()},
         {"Toolbar", ToolbarMembers()},
         {"Messages, waits and small formatters", MessageMembers()},
     };

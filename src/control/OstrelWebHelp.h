@@ -31,6 +31,7 @@ enum class MouseAction { Down, Move, Up };
 /// - Browser pane: `LoadURL`, `GoBack`, `Refresh`, `Cancel`, `LocationURL`, `BrowserGetSetting`
 /// - Progress panel and clock: `StopShow`, `StopGaugeShow`, `ClockStart`
 /// - Help pages: `HelpPageLoad`, `HelpPageLoadInternal`
+/// - Help search, index and printing: `Search`, `IndexAdd`, `CreateIndex`, `PrintSelectedPages`
 /// - Toolbar: `ButtonAdd`, `ButtonClick`, `ToolbarButtonEnabledSet`
 /// - Text primitives: `StripTags`, `TrimCrLf`, `FileExists`
 /// - Elements of HTML: `CreateLink`, `CreateImage`, `CreateString`, `CreateParagraph`
@@ -188,6 +189,49 @@ public:
     void HelpPageLoadNow();
     /// Returns the location that waits to be loaded; empty where none does.
     Text HelpPageNext();
+
+    // Help search, index and printing
+
+    /// Asks the user for a phrase, searches the help pages or the web for it and shows the results. Mask is
+    /// that of `SearchLoad`, which runs where no pages are loaded yet; where `SearchLocation` is 0 the pane's
+    /// search page is shown at once. Raises `DialogOpen` and `DialogClose`. True also where the user cancels;
+    /// False with a sentence on failure.
+    Flag Search(const Text& Mask, Text& ErrorMessage);
+    /// Forgets the loaded help pages; the next search loads them anew.
+    void SearchClear();
+    /// Writes the page of `SearchResults` to the next work file and loads it after `HelpDelay` milliseconds.
+    /// False with a sentence where there are no results or no help directory; where the page cannot be
+    /// written the sentence comes with True.
+    Flag SearchDisplay(Text& ErrorMessage);
+    /// Loads the help pages of Mask, of `SearchMask` where it is empty, and replaces those loaded before. A
+    /// mask without a backslash looks into `DirectoryHelp`. Pages that cannot be read stay empty. False with
+    /// a sentence where the mask names no directory and after Stop.
+    Flag SearchLoad(const Text& Mask, Text& ErrorMessage);
+    /// Searches the loaded pages, ranks those that hold SearchString, and puts the results into
+    /// `SearchResults` as HTML. False with a sentence where no pages are loaded, SearchString is empty, or
+    /// the user has pressed Stop.
+    Flag SearchResultsCreate(const Text& SearchString, Flag MatchCase, Flag WholeWords, Text& ErrorMessage);
+    /// Adds an entry to the index, behind those added before. Hyperlink may be empty; Indent shows the entry
+    /// below the one before; Extra is the name of an anchor in front of it; the first letter of
+    /// IndexCharacter, in place of that of Name, decides on its section.
+    void IndexAdd(const Text& Hyperlink, const Text& Name, Flag Indent, const Text& Extra,
+                  const Text& IndexCharacter);
+    /// Removes all entries of the index.
+    void IndexClear();
+    /// Returns the index as HTML, a section for each letter, with a line of letters above it (TopIndex) and
+    /// below it (BottomIndex); empty without entries. Font and IndexFont are font start tags, of the entries
+    /// (`HelpFont` where it is empty) and of the letters; SpaceSections separates the sections by
+    /// SpaceSectionHTML, SpaceColumnHTML separates letter and entry, and SpaceIdentHTML indents. PadFont has
+    /// no effect. Stop ends it with the entries so far.
+    Text CreateIndex(const Text& Font, Flag SpaceSections, const Text& SpaceSectionHTML,
+                     const Text& SpaceColumnHTML, const Text& SpaceIdentHTML, Flag TopIndex, Flag BottomIndex,
+                     const Text& IndexFont, const Text& PadFont);
+    /// Prints the page on view, without a dialog.
+    void PrintPage();
+    /// Prints the files of SelectMask without those of IgnoreMask, in the order of their paths, and shows the
+    /// page of before again. A mask without a backslash looks into `DirectoryHelp`. False with a sentence
+    /// where there is nothing to print; True also where Stop ends it.
+    Flag PrintSelectedPages(const Text& SelectMask, const Text& IgnoreMask, Text& ErrorMessage);
 
     // Toolbar
 

@@ -39,6 +39,13 @@ void GoIndexPage(const ToolbarScope& scope) {
     if (const Text page = scope.state.control.IndexPage; !page.empty()) GoPage(scope, page);
 }
 
+void SearchPages(const ToolbarScope& scope) {
+    Text error;
+    if (!scope.web.Search({}, error)) scope.web.MessageError(error);
+}
+
+void PrintPage(const ToolbarScope& scope) { scope.web.PrintPage(); }
+
 void OpenInNewWindow(const ToolbarScope& scope) {
     scope.navigator.Navigate(scope.navigator.LocationURL(), "_blank");
 }
