@@ -278,7 +278,7 @@ TEST(ToolbarClicks, ByCodeRaiseNothing) {
     EXPECT_EQ(bench.Pane().Focused(), focused + 1);
     bench.web->ButtonClick("Full");
     bench.web->ButtonClick("nobody");
-    bench.web->ButtonClick("search");
+    bench.web->ButtonClick("edit");
     EXPECT_EQ(bench.Pane().Focused(), focused + 2) << "not after full, nor for an unknown name";
     EXPECT_TRUE(bench.Take().empty());
     EXPECT_EQ(bench.Pane().TakeLog().size(), 2u);
