@@ -31,6 +31,12 @@ std::vector<FormMaker> FormMakers() {
     return makers;
 }
 
+std::unique_ptr<Form> MakeFormNamed(const Text& name) {
+    for (const FormMaker make : FormMakers())
+        if (std::unique_ptr<Form> form = make(); form->name == name) return form;
+    return nullptr;
+}
+
 const std::vector<FormRow>& AllForms() {
     static const std::vector<FormRow> forms = DescribeForms();
     return forms;

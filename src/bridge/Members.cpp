@@ -21,6 +21,7 @@ std::span<const Family> Families() {
         {"Progress panel and clock", ProgressMembers()},
         {"Help pages", HelpMembers()},
         {"Help search, index and printing", HelpServiceMembers()},
+        {"Dialogs", DialogMembers()},
         {"Toolbar", ToolbarMembers()},
         {"Messages, waits and small formatters", MessageMembers()},
     };

@@ -2,6 +2,7 @@
 
 #include "control/ControlLayout.h"
 #include "control/ControlStopPanel.h"
+#include "control/FrameDialogs.h"
 #include "control/HelpLoader.h"
 #include "control/HelpSearch.h"
 #include "control/LoadClock.h"
@@ -25,7 +26,8 @@ struct ControlParts {
           clock(guard, events, platform), navigator(events, platform, run, children, clock),
           stopPanel(platform, run, children, layout), context{events, platform, run, stopPanel, navigator},
           helpLoader(guard, context, state, navigator),
-          search(context, state, navigator, helpLoader), actions({web, navigator, helpLoader, state}),
+          search(context, state, navigator, helpLoader), dialogs(context, state, children, navigator),
+          actions({web, navigator, helpLoader, dialogs, state}),
           input(events, platform, state, children, buttons, actions, navigator, stopPanel),
           paneEvents(guard, events, platform, children, clock, navigator, helpLoader) {}
 
@@ -46,6 +48,7 @@ struct ControlParts {
     Context context;
     HelpLoader helpLoader;
     HelpSearch search;
+    FrameDialogs dialogs;
     ToolbarActions actions;
     UserInput input;
     PaneEvents paneEvents;

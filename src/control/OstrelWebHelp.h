@@ -11,6 +11,8 @@ namespace ostrel {
 class Bag;
 class CellTable;
 class Children;
+class Form;
+class OstrelProperties;
 struct ControlParts;
 struct Platform;
 
@@ -32,6 +34,7 @@ enum class MouseAction { Down, Move, Up };
 /// - Progress panel and clock: `StopShow`, `StopGaugeShow`, `ClockStart`
 /// - Help pages: `HelpPageLoad`, `HelpPageLoadInternal`
 /// - Help search, index and printing: `Search`, `IndexAdd`, `CreateIndex`, `PrintSelectedPages`
+/// - Dialogs: `DialogFileOpen`, `DialogColour`, `DialogDirectory`
 /// - Toolbar: `ButtonAdd`, `ButtonClick`, `ToolbarButtonEnabledSet`
 /// - Text primitives: `StripTags`, `TrimCrLf`, `FileExists`
 /// - Elements of HTML: `CreateLink`, `CreateImage`, `CreateString`, `CreateParagraph`
@@ -232,6 +235,45 @@ public:
     /// page of before again. A mask without a backslash looks into `DirectoryHelp`. False with a sentence
     /// where there is nothing to print; True also where Stop ends it.
     Flag PrintSelectedPages(const Text& SelectMask, const Text& IgnoreMask, Text& ErrorMessage);
+
+    // Dialogs
+
+    /// Moves a form so far that it lies on the screen; one that is larger sticks to the top left.
+    void AdjustFormPosition(Form& FormToAdjust);
+    /// Lets the user pick a colour, with red in the low byte; -1 where the user cancels. Top and Left are the
+    /// place of the dialog in twips. Raises `DialogOpen` and `DialogClose`, as all pickers do.
+    Long DialogColour(Long Top, Long Left);
+    /// Lets the user pick a directory, from InitDir on; empty where the user cancels. Flags is a number for
+    /// the system's dialog.
+    Text DialogDirectory(Long Top, Long Left, const Text& Title, const Text& InitDir, Long Flags);
+    /// Whether the user is picking a directory.
+    Flag DialogDirectoryBusy();
+    /// Lets the user pick a file to open and returns its path; empty where the user cancels. Filter is a list
+    /// of labels and masks separated by "|", FilterIndex the pair that is chosen first, from 1. InitDir is the
+    /// directory to start in, that of FileName where it is empty, and comes back as that of the picked file.
+    /// DefaultExt completes a name without extension.
+    Text DialogFileOpen(const Text& Filter, Long Top, Long Left, const Text& FileName, Text& InitDir,
+                        const Text& DefaultExt, Long FilterIndex);
+    /// As `DialogFileOpen`, for a file to save; whether it exists is not asked.
+    Text DialogFileSave(const Text& Filter, Long Top, Long Left, const Text& FileName, Text& InitDir,
+                        const Text& DefaultExt, Long FilterIndex);
+    /// Returns the filter of all files.
+    Text DialogDefaultFilter();
+    /// Returns a filter of all files and of one to three extensions, or masks that hold a ".".
+    Text DialogExtensionFilter(const Text& Extension, const Text& Extension2, const Text& Extension3);
+    /// Returns the filter of all files and of pictures.
+    Text DialogGraphicsFilter();
+    /// Returns the filter of all files and of pages.
+    Text DialogHTMLFilter();
+    /// Returns the filter of all files and of texts.
+    Text DialogTextFilter();
+    /// Returns the width of the border of a dialog of fixed size, in twips.
+    Long DialogWidth();
+    /// Returns "Connected" where any network interface is up, else an empty text. ConnectFlags is 2 where
+    /// there is a connection, else 0. Sends nothing.
+    Text IsConnected(Long& ConnectFlags);
+    /// Returns the component that shows the properties of the page on view. It belongs to the control.
+    OstrelProperties& Properties();
 
     // Toolbar
 

@@ -1,5 +1,6 @@
 #include "control/ToolbarActions.h"
 
+#include "control/FrameDialogs.h"
 #include "control/HelpLoader.h"
 #include "control/OstrelWebHelp.h"
 #include "control/PaneNavigator.h"
@@ -43,6 +44,10 @@ void SearchPages(const ToolbarScope& scope) {
     Text error;
     if (!scope.web.Search({}, error)) scope.web.MessageError(error);
 }
+
+void OpenLocation(const ToolbarScope& scope) { scope.dialogs.OpenLocation(); }
+
+void ShowPageProperties(const ToolbarScope& scope) { scope.dialogs.ShowPageProperties(); }
 
 void PrintPage(const ToolbarScope& scope) { scope.web.PrintPage(); }
 

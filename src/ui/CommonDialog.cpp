@@ -21,10 +21,10 @@ void CommonDialog::Load() {
 bool CommonDialog::Accept() {
     if (picks == Picks::Colour) return true;
     if (FileName.text->empty()) return false;
-    Text path = services::BuildPath(InitDir.text, FileName.text);
+    Text path = services::BuildPath(*InitDir.text, *FileName.text);
     const Text& extension = DefaultExt.text;
-    const Text name = services::FileName(path);
-    if (!extension.empty() && name.find('.') == Text::npos)
+    const Text lastPart = services::FileName(path);
+    if (!extension.empty() && lastPart.find('.') == Text::npos)
         path += extension.starts_with('.') ? extension : "." + extension;
     FileName.text = path;
     return true;

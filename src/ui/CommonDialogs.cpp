@@ -23,7 +23,7 @@ Text PickFile(const Dialogs& dialogs, const DialogPlace& place, FilePick& pick) 
     form.FileName.text = pick.fileName;
     form.InitDir.text = pick.directory.empty() ? services::FileDirectory(pick.fileName) : pick.directory;
     if (!ShowDialog(dialogs, form, place)) return {};
-    pick.directory = services::FileDirectory(form.FileName.text);
+    pick.directory = services::FileDirectory(*form.FileName.text);
     return form.FileName.text;
 }
 

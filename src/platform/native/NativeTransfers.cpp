@@ -1,9 +1,17 @@
-#include "platform/native/NativeTransfers.h"
+#include "platform/native/NativePlatform.h"
 
 #include <ifaddrs.h>
 #include <net/if.h>
 
 namespace ostrel {
+
+namespace {
+
+/// The network of the system.
+class NativeTransfers final : public Transfers {
+public:
+    bool Connected() override;
+};
 
 bool NativeTransfers::Connected() {
     ifaddrs* first = nullptr;
@@ -13,5 +21,9 @@ bool NativeTransfers::Connected() {
     ::freeifaddrs(first);
     return up;
 }
+
+} // namespace
+
+std::unique_ptr<Transfers> MakeNativeTransfers() { return std::make_unique<NativeTransfers>(); }
 
 } // namespace ostrel
