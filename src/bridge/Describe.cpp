@@ -51,7 +51,8 @@ void DescribeProperty(JsonWriter& writer, std::string_view name, bool indexed, b
 void DescribeProperties(JsonWriter& writer) {
     for (const PropertyRow& row : AllProperties())
         DescribeProperty(writer, row.name, row.Indexed(), row.Persisted(), row.fallback);
-    DescribeProperty(writer, "OstrelProperties.Icon", false, true, Picture());
+    // It is stored in a bag of its own.
+    DescribeProperty(writer, "OstrelProperties.Icon", false, false, Picture());
 }
 
 void DescribeEvents(JsonWriter& writer, const Events& events) {

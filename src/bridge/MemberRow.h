@@ -98,11 +98,11 @@ struct Held<CellTable> {
     CellTable Pass() { return CellTable(value); }
 };
 
-/// A form is given by its name: one of that name, which nobody has filled yet.
+/// A form is given by its name: one of that name, which nobody has filled yet, or a bare one without a name.
 template <>
 struct Held<Form> {
     static constexpr std::string_view kind = KindOf<Text>;
-    std::unique_ptr<Form> value;
+    std::unique_ptr<Form> value = std::make_unique<Form>("", Text());
     Form& Pass() { return *value; }
 };
 inline void Read(const Json& json, const Place& place, std::unique_ptr<Form>& form) {
@@ -122,9 +122,9 @@ Owner& OwnerIn(OstrelWebHelp& web) {
 }
 
 template <class Parameter>
-inline constexpr bool IsOut = std::is_lvalue_reference_v<Parameter> &&
-                              !std::is_const_v<std::remove_reference_t<Parameter>> &&
-                              !std::is_same_v<std::remove_cvref_t<Parameter>, Form>;
+inline constexpr bool IsOut =
+    std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>> &&
+    !std::is_same_v<std::remove_cvref_t<Parameter>, Form>;
 
 /// What one argument counts, or how much it holds.
 struct Measure {

@@ -25,9 +25,8 @@ struct ControlParts {
         : buttons(children), layout(guard, events, platform, state, children, buttons),
           clock(guard, events, platform), navigator(events, platform, run, children, clock),
           stopPanel(platform, run, children, layout), context{events, platform, run, stopPanel, navigator},
-          helpLoader(guard, context, state, navigator),
-          search(context, state, navigator, helpLoader), dialogs(context, state, children, navigator),
-          actions({web, navigator, helpLoader, dialogs, state}),
+          helpLoader(guard, context, state, navigator), search(context, state, navigator, helpLoader),
+          dialogs(context, state, children, navigator), actions({web, navigator, helpLoader, dialogs, state}),
           input(events, platform, state, children, buttons, actions, navigator, stopPanel),
           paneEvents(guard, events, platform, children, clock, navigator, helpLoader) {}
 

@@ -17,9 +17,7 @@ Text Word(bool value) { return value ? "True" : "False"; }
 
 FrameDialogs::FrameDialogs(Context& context, State& state, Children& children, PaneNavigator& navigator)
     : context_(context), state_(state), children_(children), navigator_(navigator),
-      properties_(context.platform) {
-    properties_.SetCaption("Page Properties");
-}
+      properties_(context.platform) {}
 
 FromComponent FrameDialogs::Under(ToolbarAction action) const {
     constexpr Long Below = 120, Leftwards = 1200;
@@ -46,7 +44,9 @@ void FrameDialogs::ShowPageProperties() {
     Long top = 0, left = 0;
     context_.events.GetControlPosition(top, left);
     const FromComponent place = Under(ActionProperties);
+    properties_.SetCaption("Page Properties");
     properties_.Show(top + place.top, left + place.left, state_.dialog.DialogOnTop ? 1 : 0);
+    properties_.SetCaption({});
 }
 
 void FrameDialogs::ListPageProperties() {
@@ -60,8 +60,7 @@ void FrameDialogs::ListPageProperties() {
     if (Files& files = *context_.platform.files; local && files.IsFile(path)) {
         std::uint64_t size = 0;
         Date written;
-        if (files.Size(path, size))
-            properties_.AddProperty("Size:", FromDouble(static_cast<Double>(size)));
+        if (files.Size(path, size)) properties_.AddProperty("Size:", FromDouble(static_cast<Double>(size)));
         if (files.Written(path, written))
             properties_.AddProperty("Date:", FormatDate(written, "d mmm yyyy hh:nn:ss"));
     }

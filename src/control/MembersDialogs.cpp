@@ -33,9 +33,8 @@ Long OstrelWebHelp::DialogColour(Long Top, Long Left) {
 }
 
 Text OstrelWebHelp::DialogDirectory(Long Top, Long Left, const Text& Title, const Text& InitDir, Long Flags) {
-    return parts_->guard([&] {
-        return parts_->dialogs.PickDirectory({.left = Left, .top = Top}, Title, InitDir, Flags);
-    });
+    return parts_->guard(
+        [&] { return parts_->dialogs.PickDirectory({.left = Left, .top = Top}, Title, InitDir, Flags); });
 }
 
 Flag OstrelWebHelp::DialogDirectoryBusy() {

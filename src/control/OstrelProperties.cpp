@@ -37,7 +37,8 @@ void OstrelProperties::Show(Long Arg1, Long Arg2, Long Arg3) {
 void OstrelProperties::ShowProperties(Long Arg1, Long Arg2, Long Arg3, Long Count, Array<Text>& Names,
                                       const Array<Text>& Values) {
     guard_([&] {
-        PropertiesForm form(caption_);
+        PropertiesForm form;
+        if (!caption_.empty()) form.caption = caption_;
         if (height_ > 0) form.height = height_;
         if (width_ > 0) form.width = width_;
         std::vector<std::vector<Text>>& rows = form.grdData.rows.Change();

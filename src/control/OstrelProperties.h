@@ -38,7 +38,7 @@ public:
     void ReadProperties(const Bag& bag);
     /// Writes the icon to a bag, where there is one.
     void WriteProperties(Bag& bag);
-    /// Sets the caption of the windows to come; "Database Properties" by default.
+    /// Sets the caption of the windows to come; empty for "Database Properties".
     void SetCaption(const Text& Caption);
 
 private:
@@ -52,7 +52,7 @@ private:
     std::vector<Pair> pairs_;
     Long height_ = 0, width_ = 0;
     Picture icon_;
-    Text caption_ = "Database Properties";
+    Text caption_;
 };
 
 } // namespace ostrel

@@ -249,9 +249,9 @@ public:
     /// Whether the user is picking a directory.
     Flag DialogDirectoryBusy();
     /// Lets the user pick a file to open and returns its path; empty where the user cancels. Filter is a list
-    /// of labels and masks separated by "|", FilterIndex the pair that is chosen first, from 1. InitDir is the
-    /// directory to start in, that of FileName where it is empty, and comes back as that of the picked file.
-    /// DefaultExt completes a name without extension.
+    /// of labels and masks separated by "|", FilterIndex the pair that is chosen first, from 1. InitDir is
+    /// the directory to start in, that of FileName where it is empty, and comes back as that of the picked
+    /// file. DefaultExt completes a name without extension.
     Text DialogFileOpen(const Text& Filter, Long Top, Long Left, const Text& FileName, Text& InitDir,
                         const Text& DefaultExt, Long FilterIndex);
     /// As `DialogFileOpen`, for a file to save; whether it exists is not asked.
@@ -272,8 +272,6 @@ public:
     /// Returns "Connected" where any network interface is up, else an empty text. ConnectFlags is 2 where
     /// there is a connection, else 0. Sends nothing.
     Text IsConnected(Long& ConnectFlags);
-    /// Returns the component that shows the properties of the page on view. It belongs to the control.
-    OstrelProperties& Properties();
 
     // Toolbar
 
@@ -835,6 +833,11 @@ public:
     void WaitMilliSeconds(Long MilliSeconds);
     /// Waits that long like `WaitMilliSeconds`, as many waits of 1000 milliseconds.
     void WaitSeconds(Long Seconds);
+
+    // The second component
+
+    /// Returns the component that shows the properties of the page on view. It belongs to the control.
+    OstrelProperties& Properties();
 
     // What a user does, for the layers that show the control or stand in for its user.
 

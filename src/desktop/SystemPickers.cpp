@@ -19,7 +19,9 @@ QString SystemPath(const Text& path) {
     return system ? QString::fromStdString(*system) : QString();
 }
 
-Text ComponentPath(const QString& path) { return NativePaths::FromSystem(path.toStdString()).value_or(Text()); }
+Text ComponentPath(const QString& path) {
+    return NativePaths::FromSystem(path.toStdString()).value_or(Text());
+}
 
 /// Pairs of a label and a mask such as "Texts|*.txt; *.log" as the toolkit writes them.
 QStringList NameFilters(const Text& filter) {
@@ -38,7 +40,7 @@ QStringList NameFilters(const Text& filter) {
 bool Run(QDialog* dialog, const Form& form) {
     const QPointer<QDialog> shown = dialog;
     dialog->setObjectName(ToQt(form.name));
-    dialog->setWindowTitle(ToQt(form.caption));
+    dialog->setWindowTitle(ToQt(*form.caption));
     dialog->setWindowFlag(Qt::WindowStaysOnTopHint, form.onTop);
     const Twips twips(*dialog);
     dialog->move(twips.Across(form.left), twips.Down(form.top));
@@ -65,12 +67,12 @@ void PickFile(CommonDialog& form, QWidget* parent) {
     dialog->setFileMode(QFileDialog::AnyFile);
     // The component asks its own question before it replaces a file.
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
-    const QStringList filters = NameFilters(form.Filter.text);
+    const QStringList filters = NameFilters(*form.Filter.text);
     dialog->setNameFilters(filters);
     const Long index = ToLong(*form.FilterIndex.text).value_or(1);
     if (index >= 1 && index <= filters.size()) dialog->selectNameFilter(filters[index - 1]);
-    dialog->setDefaultSuffix(ToQt(form.DefaultExt.text));
-    if (!form.InitDir.text->empty()) dialog->setDirectory(SystemPath(form.InitDir.text));
+    dialog->setDefaultSuffix(ToQt(*form.DefaultExt.text));
+    if (!form.InitDir.text->empty()) dialog->setDirectory(SystemPath(*form.InitDir.text));
     const Text name = form.FileName.text->substr(form.FileName.text->rfind('\\') + 1);
     if (!name.empty()) dialog->selectFile(ToQt(name));
     const bool accepted = Run(dialog, form) && !dialog->selectedFiles().isEmpty();
@@ -91,7 +93,7 @@ void ShowPicker(DirectoryDialog& form, QWidget* parent) {
     const QPointer<QFileDialog> dialog = new QFileDialog(parent);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    if (!form.InitDir.text->empty()) dialog->setDirectory(SystemPath(form.InitDir.text));
+    if (!form.InitDir.text->empty()) dialog->setDirectory(SystemPath(*form.InitDir.text));
     const bool accepted = Run(dialog, form) && !dialog->selectedFiles().isEmpty();
     if (accepted) form.Path.text = ComponentPath(dialog->selectedFiles().first());
     delete dialog;

@@ -17,11 +17,10 @@ constexpr Long PhraseHeight = 2400, OptionsHeight = 2700, PlaceHeight = 1000;
 SearchForm::SearchForm() : Form("frmOstrelWebHelpSearch", "Search") {
     for (Control* control : {static_cast<Control*>(&lblSearch), static_cast<Control*>(&txtSearch)})
         control->container = &fraSearch;
-    for (Control* control :
-         {static_cast<Control*>(&chkSearchTitle), static_cast<Control*>(&chkSearchHeader),
-          static_cast<Control*>(&chkSearchBody), static_cast<Control*>(&chkHTML),
-          static_cast<Control*>(&chkMatch), static_cast<Control*>(&chkWholeWords),
-          static_cast<Control*>(&lblShow), static_cast<Control*>(&cboShow)})
+    for (Control* control : {static_cast<Control*>(&chkSearchTitle), static_cast<Control*>(&chkSearchHeader),
+                             static_cast<Control*>(&chkSearchBody), static_cast<Control*>(&chkHTML),
+                             static_cast<Control*>(&chkMatch), static_cast<Control*>(&chkWholeWords),
+                             static_cast<Control*>(&lblShow), static_cast<Control*>(&cboShow)})
         control->container = &fraOptions;
     for (Control* control : {static_cast<Control*>(&optLocal), static_cast<Control*>(&optInternet)})
         control->container = &fraWhere;

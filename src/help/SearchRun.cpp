@@ -56,7 +56,8 @@ std::optional<Ranking> SearchAllPages(const Context& context, SearchPages& pages
     context.stopPanel.ResetGauge();
     for (SearchPage& page : pages.pages) {
         found.push_back(matcher.In(page));
-        context.stopPanel.ShowGauge(static_cast<Single>(found.size()) / static_cast<Single>(pages.pages.size()));
+        context.stopPanel.ShowGauge(static_cast<Single>(found.size()) /
+                                    static_cast<Single>(pages.pages.size()));
         context.GiveWay();
         if (context.run.Pressed()) return std::nullopt;
     }

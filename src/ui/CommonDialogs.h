@@ -10,7 +10,8 @@ struct FilePick {
     Text filter; ///< see ui/DialogFilters.h; empty for all files
     Long filterIndex = 0;
     Text fileName;
-    Text directory; ///< where it starts, the directory of `fileName` where it is empty; that of the picked file
+    Text directory; ///< where it starts, the directory of `fileName` where it is empty; that of the picked
+                    ///< file
     Text defaultExtension; ///< of a name that is typed without one
 };
 

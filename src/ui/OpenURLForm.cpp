@@ -9,8 +9,8 @@ OpenURLForm::OpenURLForm(const Dialogs* dialogs, const Text& program)
     : Form("frmOstrelWebHelpOpenURL", "Open URL"), dialogs_(dialogs) {
     width = 6000;
     height = 1800;
-    lblURL.caption = program.empty() ? Text("Address or file to open:")
-                                     : "Address or file to open in " + program + ":";
+    lblURL.caption =
+        program.empty() ? Text("Address or file to open:") : "Address or file to open in " + program + ":";
     cmdURL.beside = &txtURL;
 }
 

@@ -2,7 +2,7 @@
 
 namespace ostrel {
 
-PropertiesForm::PropertiesForm(Text formCaption) : Form("frmOstrelProperties", std::move(formCaption)) {
+PropertiesForm::PropertiesForm() : Form("frmOstrelProperties", "Database Properties") {
     width = 7200;
     height = 5400;
     grdData.rows = {{"Property", "Value"}};

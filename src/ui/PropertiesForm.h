@@ -7,7 +7,7 @@ namespace ostrel {
 /// A list of names and values to read.
 class PropertiesForm final : public Form {
 public:
-    explicit PropertiesForm(Text formCaption = "Database Properties");
+    PropertiesForm();
 
     /// The header row first.
     GridBox grdData{*this, "grdData"};

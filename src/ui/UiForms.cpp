@@ -20,12 +20,10 @@ std::unique_ptr<Form> MakeMessageBox() {
 std::span<const FormMaker> UiForms() {
     using enum MessageButtons;
     static constexpr FormMaker Forms[]{
-        MakeForm<AboutForm>,         MakeForm<CommonDialog>,
-        MakeForm<DirectoryDialog>,   MakeForm<OpenURLForm>,
-        MakeForm<PropertiesForm>,    MakeMessageBox<Ok>,
-        MakeMessageBox<OkCancel>,    MakeMessageBox<AbortRetryIgnore>,
-        MakeMessageBox<YesNoCancel>, MakeMessageBox<YesNo>,
-        MakeMessageBox<RetryCancel>,
+        MakeForm<AboutForm>,      MakeForm<CommonDialog>,           MakeForm<DirectoryDialog>,
+        MakeForm<OpenURLForm>,    MakeForm<PropertiesForm>,         MakeMessageBox<Ok>,
+        MakeMessageBox<OkCancel>, MakeMessageBox<AbortRetryIgnore>, MakeMessageBox<YesNoCancel>,
+        MakeMessageBox<YesNo>,    MakeMessageBox<RetryCancel>,
     };
     return Forms;
 }

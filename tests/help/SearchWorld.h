@@ -56,8 +56,8 @@ struct SearchWorld : PageWorld {
     std::vector<Text> Found(const Text& phrase, bool matchCase = false, bool wholeWords = false) {
         std::vector<Text> lines;
         const help::SearchPages& pages = *store.pages;
-        const auto ranking = SearchAllPages(searchContext, *store.pages,
-                                            help::TermsOf(search, phrase, matchCase, wholeWords));
+        const auto ranking =
+            SearchAllPages(searchContext, *store.pages, help::TermsOf(search, phrase, matchCase, wholeWords));
         for (const help::RankedPage& ranked : ranking->best)
             lines.push_back(pages.pages[ranked.page].FileName() + " " +
                             FormatNumber(ranking->Percentage(ranked.score), "0.0"));
