@@ -42,8 +42,7 @@ int main(int count, char** words) {
     search.SearchTitle = search.SearchBody = search.SearchRemoveHTML = true;
     service.DirectoryHelp = ComponentPath(words[1]);
     help::SearchStore store;
-    help::JobPanel panel;
-    const help::SearchScope scope{pages, service, search, store, panel};
+    const help::SearchScope scope{pages, service, search, store};
 
     Text error, lastFileError;
     const auto query = [&](const char* phrase) {

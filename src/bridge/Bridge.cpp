@@ -148,6 +148,7 @@ const std::vector<Bridge::Verb>& Bridge::Verbs() {
         {"advance", &Bridge::Advance},
         {"clipboard", &Bridge::UseClipboard},
         {"screen", &Bridge::SizeScreen},
+        {"transfer", &Bridge::Transfer},
         {"ticks", &Bridge::Ticks},
         {"new", &Bridge::Renew},
         {"write", &Bridge::WriteBag},

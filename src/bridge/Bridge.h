@@ -64,6 +64,7 @@ private:
     void Advance(const Json& request, CallAnswer& answer);
     void UseClipboard(const Json& request, CallAnswer& answer);
     void SizeScreen(const Json& request, CallAnswer& answer);
+    void Transfer(const Json& request, CallAnswer& answer);
     void Ticks(const Json& request, CallAnswer& answer);
     void Renew(const Json& request, CallAnswer& answer);
     void WriteBag(const Json& request, CallAnswer& answer);

@@ -32,21 +32,27 @@ void DescribeMember(JsonWriter& writer, const Member& member) {
     writer.EndObject();
 }
 
+void DescribeProperty(JsonWriter& writer, std::string_view name, bool indexed, bool persisted,
+                      const PropertyValue& fallback) {
+    writer.BeginObject();
+    writer.Key("name");
+    writer.Utf8(name);
+    writer.Key("kind");
+    std::visit([&](const auto& value) { writer.Utf8(KindOf<decltype(value)>); }, fallback);
+    writer.Key("indexed");
+    writer.Flag(indexed);
+    writer.Key("persisted");
+    writer.Flag(persisted);
+    writer.Key("default");
+    std::visit([&](const auto& value) { Write(writer, value); }, fallback);
+    writer.EndObject();
+}
+
 void DescribeProperties(JsonWriter& writer) {
-    for (const PropertyRow& row : AllProperties()) {
-        writer.BeginObject();
-        writer.Key("name");
-        writer.Utf8(row.name);
-        writer.Key("kind");
-        std::visit([&](const auto& value) { writer.Utf8(KindOf<decltype(value)>); }, row.fallback);
-        writer.Key("indexed");
-        writer.Flag(row.Indexed());
-        writer.Key("persisted");
-        writer.Flag(row.Persisted());
-        writer.Key("default");
-        std::visit([&](const auto& value) { Write(writer, value); }, row.fallback);
-        writer.EndObject();
-    }
+    for (const PropertyRow& row : AllProperties())
+        DescribeProperty(writer, row.name, row.Indexed(), row.Persisted(), row.fallback);
+    // It is stored in a bag of its own.
+    DescribeProperty(writer, "OstrelProperties.Icon", false, false, Picture());
 }
 
 void DescribeEvents(JsonWriter& writer, const Events& events) {

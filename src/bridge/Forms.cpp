@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "help/HelpForms.h"
+
 namespace ostrel::bridge {
 
 namespace {
@@ -24,9 +26,15 @@ std::vector<FormRow> DescribeForms() {
 
 std::vector<FormMaker> FormMakers() {
     std::vector<FormMaker> makers;
-    for (const std::span<const FormMaker> table : {UiForms()})
+    for (const std::span<const FormMaker> table : {UiForms(), help::HelpForms()})
         makers.insert(makers.end(), table.begin(), table.end());
     return makers;
+}
+
+std::unique_ptr<Form> MakeFormNamed(const Text& name) {
+    for (const FormMaker make : FormMakers())
+        if (std::unique_ptr<Form> form = make(); form->name == name) return form;
+    return nullptr;
 }
 
 const std::vector<FormRow>& AllForms() {

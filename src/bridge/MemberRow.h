@@ -7,11 +7,14 @@
 #include <type_traits>
 #include <utility>
 
+#include "bridge/Forms.h"
 #include "bridge/MemberDocs.h"
 #include "bridge/Members.h"
 #include "bridge/Values.h"
+#include "control/OstrelProperties.h"
 #include "control/OstrelWebHelp.h"
 #include "tablepages/CellTable.h"
+#include "text/CodePage.h"
 
 namespace ostrel::bridge {
 
@@ -23,7 +26,16 @@ namespace ostrel::bridge {
     [] {                                                                                                     \
         constexpr auto arguments = SplitNames<ArityOf<&OstrelWebHelp::name>>(names);                         \
         static_assert(arguments.fits, "names and parameters of " #name " differ");                           \
-        return MakeMember<&OstrelWebHelp::name>(#name, docs::name, arguments);                               \
+        return MakeMember<&OstrelWebHelp::name>(#name, docs::OstrelWebHelp::name, arguments);                \
+    }()
+
+/// The same for a member of the property list that the component holds.
+#define PROPERTY_LIST_MEMBER(name, names)                                                                    \
+    [] {                                                                                                     \
+        constexpr auto arguments = SplitNames<ArityOf<&OstrelProperties::name>>(names);                      \
+        static_assert(arguments.fits, "names and parameters of " #name " differ");                           \
+        return MakeMember<&OstrelProperties::name>("OstrelProperties." #name, docs::OstrelProperties::name,  \
+                                                   arguments);                                               \
     }()
 
 /// The most elements that a growing array grows to.
@@ -86,9 +98,33 @@ struct Held<CellTable> {
     CellTable Pass() { return CellTable(value); }
 };
 
+/// A form is given by its name: one of that name, which nobody has filled yet, or a bare one without a name.
+template <>
+struct Held<Form> {
+    static constexpr std::string_view kind = KindOf<Text>;
+    std::unique_ptr<Form> value = std::make_unique<Form>("", Text());
+    Form& Pass() { return *value; }
+};
+inline void Read(const Json& json, const Place& place, std::unique_ptr<Form>& form) {
+    Text name;
+    Read(json, place, name);
+    form = MakeFormNamed(name);
+    if (!form) RefuseUnknown("Form", ToUtf8(name));
+}
+
+/// The component that a member belongs to.
+template <class Owner>
+Owner& OwnerIn(OstrelWebHelp& web) {
+    if constexpr (std::is_same_v<Owner, OstrelProperties>)
+        return web.Properties();
+    else
+        return web;
+}
+
 template <class Parameter>
 inline constexpr bool IsOut =
-    std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>;
+    std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>> &&
+    !std::is_same_v<std::remove_cvref_t<Parameter>, Form>;
 
 /// What one argument counts, or how much it holds.
 struct Measure {
@@ -126,8 +162,8 @@ void RequireCounts(const Member& member, std::span<const Measure> measures);
 template <auto Function, class Signature = decltype(Function)>
 struct Caller;
 
-template <auto Function, class Result, class... Parameters>
-struct Caller<Function, Result (OstrelWebHelp::*)(Parameters...)> {
+template <auto Function, class Owner, class Result, class... Parameters>
+struct Caller<Function, Result (Owner::*)(Parameters...)> {
     static constexpr std::size_t arity = sizeof...(Parameters);
     static constexpr std::string_view result = KindOf<Result>;
     using Values = std::tuple<Held<std::remove_cvref_t<Parameters>>...>;
@@ -159,16 +195,19 @@ private:
         };
         (grow(member.arguments[I], std::get<I>(values)), ...);
 
+        auto& owner = OwnerIn<Owner>(web);
         if constexpr (std::is_void_v<Result>) {
-            (web.*Function)(std::get<I>(values).Pass()...);
+            (owner.*Function)(std::get<I>(values).Pass()...);
         } else {
-            answer.Give((web.*Function)(std::get<I>(values).Pass()...));
+            answer.Give((owner.*Function)(std::get<I>(values).Pass()...));
         }
         JsonWriter writer(answer.out);
         [[maybe_unused]] const auto write = [&](const Argument& argument, const auto& held) {
-            if (!argument.out) return;
-            writer.Key(argument.name);
-            Write(writer, held.value);
+            if constexpr (requires { Write(writer, held.value); }) {
+                if (!argument.out) return;
+                writer.Key(argument.name);
+                Write(writer, held.value);
+            }
         };
         (write(member.arguments[I], std::get<I>(values)), ...);
     }

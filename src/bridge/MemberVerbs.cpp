@@ -1,6 +1,7 @@
 #include "bridge/Bridge.h"
 #include "bridge/Refusal.h"
 #include "bridge/Values.h"
+#include "control/OstrelProperties.h"
 #include "control/PropertyTable.h"
 
 namespace ostrel::bridge {
@@ -23,6 +24,9 @@ Long IndexIn(const Json& request, const PropertyRow& row) {
     return value;
 }
 
+/// The one property of the second component.
+constexpr std::string_view ListIcon = "OstrelProperties.Icon";
+
 } // namespace
 
 void Bridge::Call(const Json& request, CallAnswer& answer) {
@@ -41,6 +45,7 @@ void Bridge::Get(const Json& request, CallAnswer& answer) {
         const PropertyValue value = row->get(*web_, IndexIn(request, *row));
         return std::visit([&](const auto& held) { answer.Give(held); }, value);
     }
+    if (name == ListIcon) return answer.Give(web_->Properties().GetIcon());
     const Member* member = FindMember(name);
     if (!member || !member->ReadsLikeProperty()) RefuseUnknown("Property", name);
     member->call(*member, *web_, Json::array(), answer);
@@ -48,12 +53,17 @@ void Bridge::Get(const Json& request, CallAnswer& answer) {
 
 void Bridge::Set(const Json& request, CallAnswer&) {
     const std::string& name = NameIn(request, "set", "a property");
+    const auto json = request.find("value");
+    if (name == ListIcon && json != request.end()) {
+        Picture icon;
+        Read(*json, Place{ListIcon}, icon);
+        return web_->Properties().SetIcon(icon);
+    }
     const PropertyRow* row = FindProperty(name);
     if (!row && FindMember(name) && FindMember(name)->ReadsLikeProperty())
         throw Refusal(name + " can only be read.");
     if (!row) RefuseUnknown("Property", name);
     const Long index = IndexIn(request, *row);
-    const auto json = request.find("value");
     if (json == request.end()) throw Refusal("The value has not been defined.");
     PropertyValue value = row->fallback;
     std::visit([&](auto& held) { Read(*json, Place{row->name}, held); }, value);

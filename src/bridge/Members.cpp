@@ -20,6 +20,8 @@ std::span<const Family> Families() {
         {"Browser pane", BrowserMembers()},
         {"Progress panel and clock", ProgressMembers()},
         {"Help pages", HelpMembers()},
+        {"Help search, index and printing", HelpServiceMembers()},
+        {"Dialogs", DialogMembers()},
         {"Toolbar", ToolbarMembers()},
         {"Messages, waits and small formatters", MessageMembers()},
     };

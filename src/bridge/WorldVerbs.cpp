@@ -46,4 +46,11 @@ void Bridge::SizeScreen(const Json& request, CallAnswer&) {
     platform_.Display().Area(area);
 }
 
+void Bridge::Transfer(const Json& request, CallAnswer&) {
+    const Json& what = request.at("transfer");
+    if (what.is_null()) return platform_.Network().ScriptConnected(std::nullopt);
+    if (what != "offline" && what != "online") throw Refusal("transfer must be online, offline or null.");
+    platform_.Network().ScriptConnected(what == "online");
+}
+
 } // namespace ostrel::bridge

@@ -55,8 +55,7 @@ void DirectorySearch::Run() {
     RunFlags run;
     platform.clock = std::make_unique<StopClock>(MakeNativeClock(), [&run] { run.HostStop = true; });
     const Context context{events, platform, run};
-    help::JobPanel panel;
-    const std::optional<help::Ranking> ranking = help::SearchAllPages(context, panel, pages_, terms_);
+    const std::optional<help::Ranking> ranking = help::SearchAllPages(context, pages_, terms_);
     if (!ranking) throw tables::Interruption{};
     ranking_ = *ranking;
 }

@@ -2,7 +2,9 @@
 
 #include "control/ControlLayout.h"
 #include "control/ControlStopPanel.h"
+#include "control/FrameDialogs.h"
 #include "control/HelpLoader.h"
+#include "control/HelpSearch.h"
 #include "control/LoadClock.h"
 #include "control/PageScopeOf.h"
 #include "control/PaneEvents.h"
@@ -23,7 +25,8 @@ struct ControlParts {
         : buttons(children), layout(guard, events, platform, state, children, buttons),
           clock(guard, events, platform), navigator(events, platform, run, children, clock),
           stopPanel(platform, run, children, layout), context{events, platform, run, stopPanel, navigator},
-          helpLoader(guard, context, state, navigator), actions({web, navigator, helpLoader, state}),
+          helpLoader(guard, context, state, navigator), search(context, state, navigator, helpLoader),
+          dialogs(context, state, children, navigator), actions({web, navigator, helpLoader, dialogs, state}),
           input(events, platform, state, children, buttons, actions, navigator, stopPanel),
           paneEvents(guard, events, platform, children, clock, navigator, helpLoader) {}
 
@@ -43,6 +46,8 @@ struct ControlParts {
     ControlStopPanel stopPanel;
     Context context;
     HelpLoader helpLoader;
+    HelpSearch search;
+    FrameDialogs dialogs;
     ToolbarActions actions;
     UserInput input;
     PaneEvents paneEvents;

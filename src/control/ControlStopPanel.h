@@ -12,6 +12,7 @@ public:
         : platform_(platform), run_(run), children_(children), layout_(layout) {}
 
     void Show(const Text& heading) override;
+    void ShowItem(const Text& name) override { children_.fraStop.caption = name; }
     void Hide() override;
     void ResetGauge() override;
     void ShowGauge(Single fraction) override;

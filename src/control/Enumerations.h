@@ -2,17 +2,11 @@
 
 // The numbers that hosts know by name.
 
+#include "help/SearchLocation.h"
 #include "html/FontType.h"
 #include "tablepages/TableTypes.h"
 
 namespace ostrel {
-
-enum OWHSearchLocation {
-    owhSearchNone = 0,
-    owhSearchLocal = 1,
-    owhSearchRemote = 2,
-    owhSearchLocalRemote = 3
-};
 
 enum OBTabStopType {
     obTabStopAll = 0,

@@ -21,6 +21,8 @@ public:
     /// Builds a page of `HelpPart1` to `HelpPart3` in the next work file and sets up its load. False with a
     /// sentence where the parts are empty, the directory is missing or the file cannot be written.
     bool LoadInternal(Text& error);
+    /// Sets up the load of a location, which replaces one that waits.
+    void Arm(const Text& location);
     /// Starts a load that waits at once; does nothing where none waits.
     void LoadNow();
     /// Whether the local help directory holds a file of that name.
@@ -40,7 +42,6 @@ public:
 
 private:
     bool Locate(const Text& page, Text& location, Text& error) const;
-    void Arm(const Text& location);
     void Tick();
 
     Guard& guard_;

@@ -27,6 +27,7 @@ void OstrelWebHelp::InitProperties() {
         parts_->clock.EndEvents();
         html::HelpPageInitialise(parts_->state.draft);
         PageReset();
+        IndexClear();
         Children& children = parts_->children;
         children.lblURL.visible = children.cmdURL.visible = children.txtURL.visible = false;
         children.txtURL.text.clear();

@@ -11,6 +11,8 @@ namespace ostrel {
 class Bag;
 class CellTable;
 class Children;
+class Form;
+class OstrelProperties;
 struct ControlParts;
 struct Platform;
 
@@ -31,6 +33,8 @@ enum class MouseAction { Down, Move, Up };
 /// - Browser pane: `LoadURL`, `GoBack`, `Refresh`, `Cancel`, `LocationURL`, `BrowserGetSetting`
 /// - Progress panel and clock: `StopShow`, `StopGaugeShow`, `ClockStart`
 /// - Help pages: `HelpPageLoad`, `HelpPageLoadInternal`
+/// - Help search, index and printing: `Search`, `IndexAdd`, `CreateIndex`, `PrintSelectedPages`
+/// - Dialogs: `DialogFileOpen`, `DialogColour`, `DialogDirectory`
 /// - Toolbar: `ButtonAdd`, `ButtonClick`, `ToolbarButtonEnabledSet`
 /// - Text primitives: `StripTags`, `TrimCrLf`, `FileExists`
 /// - Elements of HTML: `CreateLink`, `CreateImage`, `CreateString`, `CreateParagraph`
@@ -188,6 +192,86 @@ public:
     void HelpPageLoadNow();
     /// Returns the location that waits to be loaded; empty where none does.
     Text HelpPageNext();
+
+    // Help search, index and printing
+
+    /// Asks the user for a phrase, searches the help pages or the web for it and shows the results. Mask is
+    /// that of `SearchLoad`, which runs where no pages are loaded yet; where `SearchLocation` is 0 the pane's
+    /// search page is shown at once. Raises `DialogOpen` and `DialogClose`. True also where the user cancels;
+    /// False with a sentence on failure.
+    Flag Search(const Text& Mask, Text& ErrorMessage);
+    /// Forgets the loaded help pages; the next search loads them anew.
+    void SearchClear();
+    /// Writes the page of `SearchResults` to the next work file and loads it after `HelpDelay` milliseconds.
+    /// False with a sentence where there are no results or no help directory; where the page cannot be
+    /// written the sentence comes with True.
+    Flag SearchDisplay(Text& ErrorMessage);
+    /// Loads the help pages of Mask, of `SearchMask` where it is empty, and replaces those loaded before. A
+    /// mask without a backslash looks into `DirectoryHelp`. Pages that cannot be read stay empty. False with
+    /// a sentence where the mask names no directory and after Stop.
+    Flag SearchLoad(const Text& Mask, Text& ErrorMessage);
+    /// Searches the loaded pages, ranks those that hold SearchString, and puts the results into
+    /// `SearchResults` as HTML. False with a sentence where no pages are loaded, SearchString is empty, or
+    /// the user has pressed Stop.
+    Flag SearchResultsCreate(const Text& SearchString, Flag MatchCase, Flag WholeWords, Text& ErrorMessage);
+    /// Adds an entry to the index, behind those added before. Hyperlink may be empty; Indent shows the entry
+    /// below the one before; Extra is the name of an anchor in front of it; the first letter of
+    /// IndexCharacter, in place of that of Name, decides on its section.
+    void IndexAdd(const Text& Hyperlink, const Text& Name, Flag Indent, const Text& Extra,
+                  const Text& IndexCharacter);
+    /// Removes all entries of the index.
+    void IndexClear();
+    /// Returns the index as HTML, a section for each letter, with a line of letters above it (TopIndex) and
+    /// below it (BottomIndex); empty without entries. Font and IndexFont are font start tags, of the entries
+    /// (`HelpFont` where it is empty) and of the letters; SpaceSections separates the sections by
+    /// SpaceSectionHTML, SpaceColumnHTML separates letter and entry, and SpaceIdentHTML indents. PadFont has
+    /// no effect. Stop ends it with the entries so far.
+    Text CreateIndex(const Text& Font, Flag SpaceSections, const Text& SpaceSectionHTML,
+                     const Text& SpaceColumnHTML, const Text& SpaceIdentHTML, Flag TopIndex, Flag BottomIndex,
+                     const Text& IndexFont, const Text& PadFont);
+    /// Prints the page on view, without a dialog.
+    void PrintPage();
+    /// Prints the files of SelectMask without those of IgnoreMask, in the order of their paths, and shows the
+    /// page of before again. A mask without a backslash looks into `DirectoryHelp`. False with a sentence
+    /// where there is nothing to print; True also where Stop ends it.
+    Flag PrintSelectedPages(const Text& SelectMask, const Text& IgnoreMask, Text& ErrorMessage);
+
+    // Dialogs
+
+    /// Moves a form so far that it lies on the screen; one that is larger sticks to the top left.
+    void AdjustFormPosition(Form& FormToAdjust);
+    /// Lets the user pick a colour, with red in the low byte; -1 where the user cancels. Top and Left are the
+    /// place of the dialog in twips. Raises `DialogOpen` and `DialogClose`, as all pickers do.
+    Long DialogColour(Long Top, Long Left);
+    /// Lets the user pick a directory, from InitDir on; empty where the user cancels. Flags is a number for
+    /// the system's dialog.
+    Text DialogDirectory(Long Top, Long Left, const Text& Title, const Text& InitDir, Long Flags);
+    /// Whether the user is picking a directory.
+    Flag DialogDirectoryBusy();
+    /// Lets the user pick a file to open and returns its path; empty where the user cancels. Filter is a list
+    /// of labels and masks separated by "|", FilterIndex the pair that is chosen first, from 1. InitDir is
+    /// the directory to start in, that of FileName where it is empty, and comes back as that of the picked
+    /// file. DefaultExt completes a name without extension.
+    Text DialogFileOpen(const Text& Filter, Long Top, Long Left, const Text& FileName, Text& InitDir,
+                        const Text& DefaultExt, Long FilterIndex);
+    /// As `DialogFileOpen`, for a file to save; whether it exists is not asked.
+    Text DialogFileSave(const Text& Filter, Long Top, Long Left, const Text& FileName, Text& InitDir,
+                        const Text& DefaultExt, Long FilterIndex);
+    /// Returns the filter of all files.
+    Text DialogDefaultFilter();
+    /// Returns a filter of all files and of one to three extensions, or masks that hold a ".".
+    Text DialogExtensionFilter(const Text& Extension, const Text& Extension2, const Text& Extension3);
+    /// Returns the filter of all files and of pictures.
+    Text DialogGraphicsFilter();
+    /// Returns the filter of all files and of pages.
+    Text DialogHTMLFilter();
+    /// Returns the filter of all files and of texts.
+    Text DialogTextFilter();
+    /// Returns the width of the border of a dialog of fixed size, in twips.
+    Long DialogWidth();
+    /// Returns "Connected" where any network interface is up, else an empty text. ConnectFlags is 2 where
+    /// there is a connection, else 0. Sends nothing.
+    Text IsConnected(Long& ConnectFlags);
 
     // Toolbar
 
@@ -749,6 +833,11 @@ public:
     void WaitMilliSeconds(Long MilliSeconds);
     /// Waits that long like `WaitMilliSeconds`, as many waits of 1000 milliseconds.
     void WaitSeconds(Long Seconds);
+
+    // The second component
+
+    /// Returns the component that shows the properties of the page on view. It belongs to the control.
+    OstrelProperties& Properties();
 
     // What a user does, for the layers that show the control or stand in for its user.
 

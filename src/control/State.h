@@ -3,6 +3,7 @@
 #include "control/ControlProperties.h"
 #include "control/ToolbarProperties.h"
 #include "editors/EditProperties.h"
+#include "help/IndexStore.h"
 #include "help/SearchProperties.h"
 #include "html/HelpProperties.h"
 #include "html/PageFonts.h"
@@ -30,6 +31,7 @@ struct State {
     HeaderLinks headerLinks;
     SeparatePage separate;
     SearchProperties search;
+    help::IndexStore index;
     PullProperties pull;
     EditProperties edit;
 

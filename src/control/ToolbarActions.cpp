@@ -1,5 +1,6 @@
 #include "control/ToolbarActions.h"
 
+#include "control/FrameDialogs.h"
 #include "control/HelpLoader.h"
 #include "control/OstrelWebHelp.h"
 #include "control/PaneNavigator.h"
@@ -38,6 +39,17 @@ void GoHomePage(const ToolbarScope& scope) {
 void GoIndexPage(const ToolbarScope& scope) {
     if (const Text page = scope.state.control.IndexPage; !page.empty()) GoPage(scope, page);
 }
+
+void SearchPages(const ToolbarScope& scope) {
+    Text error;
+    if (!scope.web.Search({}, error)) scope.web.MessageError(error);
+}
+
+void OpenLocation(const ToolbarScope& scope) { scope.dialogs.OpenLocation(); }
+
+void ShowPageProperties(const ToolbarScope& scope) { scope.dialogs.ShowPageProperties(); }
+
+void PrintPage(const ToolbarScope& scope) { scope.web.PrintPage(); }
 
 void OpenInNewWindow(const ToolbarScope& scope) {
     scope.navigator.Navigate(scope.navigator.LocationURL(), "_blank");

@@ -4,6 +4,7 @@
 
 namespace ostrel {
 
+class FrameDialogs;
 class HelpLoader;
 class OstrelWebHelp;
 class PaneNavigator;
@@ -14,6 +15,7 @@ struct ToolbarScope {
     OstrelWebHelp& web;
     PaneNavigator& navigator;
     HelpLoader& help;
+    FrameDialogs& dialogs;
     const State& state;
 };
 

@@ -22,6 +22,7 @@ OstrelWebHelpWidget::OstrelWebHelpWidget(QWidget* parent, EventList::AnyListener
     platform_.clock = std::make_unique<QtClock>([this] { Sync(); });
     platform_.files = MakeNativeFiles();
     platform_.settings = MakeNativeSettings();
+    platform_.transfers = MakeNativeTransfers();
     platform_.screen = std::make_unique<QtScreen>(*this);
     platform_.clipboard = std::make_unique<QtClipboard>();
     auto pane = std::make_unique<QtPane>(view_->PaneHost());

@@ -13,7 +13,9 @@
 #include "desktop/FormDialog.h"
 #include "desktop/LineText.h"
 #include "desktop/QtText.h"
+#include "desktop/SystemPickers.h"
 #include "desktop/Twips.h"
+#include "ui/CommonDialog.h"
 #include "ui/MessageBox.h"
 
 namespace ostrel::desktop {
@@ -44,6 +46,9 @@ const QScreen& ScreenOf(const QWidget* widget) {
 } // namespace
 
 void QtScreen::ShowModal(Form& form) {
+    // Pickers of files, colours and directories are the toolkit's own.
+    if (auto* common = dynamic_cast<CommonDialog*>(&form)) return ShowPicker(*common, Window());
+    if (auto* directory = dynamic_cast<DirectoryDialog*>(&form)) return ShowPicker(*directory, Window());
     // On the heap, since the owner deletes the dialog, possibly while it is shown.
     const QPointer<FormDialog> dialog = new FormDialog(form, Window());
     dialog->exec();

@@ -45,9 +45,9 @@ bool ReadPages(const SearchScope& scope, const SearchBounds& bounds, SearchPages
     Context& context = scope.page.context;
     PageReader reader(*context.platform.files, bounds.page);
     std::size_t size = 0, done = 0;
-    scope.panel.ResetGauge();
+    context.stopPanel.ResetGauge();
     for (SearchPage& page : loaded.pages) {
-        scope.panel.ShowItem(page.FileName());
+        context.stopPanel.ShowItem(page.FileName());
         context.GiveWay();
         bool tooLarge = size >= bounds.store;
         if (!tooLarge) {
@@ -57,7 +57,7 @@ bool ReadPages(const SearchScope& scope, const SearchBounds& bounds, SearchPages
         }
         if (tooLarge) ++loaded.tooLarge;
         size += page.Size();
-        scope.panel.ShowGauge(static_cast<Single>(++done) / static_cast<Single>(loaded.pages.size()));
+        context.stopPanel.ShowGauge(static_cast<Single>(++done) / static_cast<Single>(loaded.pages.size()));
         context.GiveWay();
         if (context.run.Pressed()) return false;
     }
@@ -72,7 +72,7 @@ bool SearchLoad(const SearchScope& scope, const Text& mask, Text& lastFileError,
     const Text full = FullMask(scope, mask, error);
     if (full.empty()) return false;
 
-    const PanelShown panel(scope.panel, "Loading Help Pages");
+    const StopPanelShown panel(scope.page.context.stopPanel, "Loading Help Pages");
     scope.store.Clear();
     // The pages come into the store whole: whoever searches it during a yield finds it empty.
     auto loaded = std::make_shared<SearchPages>();

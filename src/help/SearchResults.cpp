@@ -73,8 +73,8 @@ bool SearchResultsCreate(const SearchScope& scope, const Text& phrase, bool matc
     if (!error.empty()) return false;
 
     const SearchTerms terms = TermsOf(scope.search, phrase, matchCase, wholeWords);
-    const PanelShown panel(scope.panel, "Searching Help Pages");
-    const auto ranking = SearchAllPages(scope.page.context, scope.panel, *pages, terms);
+    const StopPanelShown panel(scope.page.context.stopPanel, "Searching Help Pages");
+    const auto ranking = SearchAllPages(scope.page.context, *pages, terms);
     if (!ranking) {
         error = "Loading of Help Pages Interrupted.";
         return false;

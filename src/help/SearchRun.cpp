@@ -49,15 +49,15 @@ SearchTerms TermsOf(const SearchProperties& search, const Text& phrase, bool mat
             .mostPages = static_cast<std::size_t>(std::max<Long>(ResultLines(search), 0))};
 }
 
-std::optional<Ranking> SearchAllPages(const Context& context, JobPanel& panel, SearchPages& pages,
-                                      const SearchTerms& terms) {
+std::optional<Ranking> SearchAllPages(const Context& context, SearchPages& pages, const SearchTerms& terms) {
     const PageMatcher matcher(terms);
     std::vector<PageMatches> found;
     found.reserve(pages.pages.size());
-    panel.ResetGauge();
+    context.stopPanel.ResetGauge();
     for (SearchPage& page : pages.pages) {
         found.push_back(matcher.In(page));
-        panel.ShowGauge(static_cast<Single>(found.size()) / static_cast<Single>(pages.pages.size()));
+        context.stopPanel.ShowGauge(static_cast<Single>(found.size()) /
+                                    static_cast<Single>(pages.pages.size()));
         context.GiveWay();
         if (context.run.Pressed()) return std::nullopt;
     }

@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "help/JobPanel.h"
 #include "help/SearchProperties.h"
 #include "help/SearchRanking.h"
 #include "help/SearchStore.h"
@@ -24,7 +23,6 @@ SearchTerms TermsOf(const SearchProperties& search, const Text& phrase, bool mat
 
 /// Searches all pages and ranks those that hold the phrase. Shows the gauge and gives way after each page;
 /// nothing after a stop.
-std::optional<Ranking> SearchAllPages(const Context& context, JobPanel& panel, SearchPages& pages,
-                                      const SearchTerms& terms);
+std::optional<Ranking> SearchAllPages(const Context& context, SearchPages& pages, const SearchTerms& terms);
 
 } // namespace ostrel::help

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "help/JobPanel.h"
 #include "help/SearchProperties.h"
 #include "help/SearchStore.h"
 #include "html/PageScope.h"
@@ -13,7 +12,6 @@ struct SearchScope {
     ServiceProperties& service;
     SearchProperties& search;
     SearchStore& store;
-    JobPanel& panel;
 };
 
 } // namespace ostrel::help

@@ -113,6 +113,11 @@ public:
     void Focus() override {}
 };
 
+class NullTransfers final : public Transfers {
+public:
+    bool Connected() override { return false; }
+};
+
 template <class Interface, class Null>
 Interface& Only() {
     static Null object;
@@ -149,6 +154,11 @@ Clipboard& NullObject<Clipboard>() {
 template <>
 BrowserPane& NullObject<BrowserPane>() {
     return Only<BrowserPane, NullPane>();
+}
+
+template <>
+Transfers& NullObject<Transfers>() {
+    return Only<Transfers, NullTransfers>();
 }
 
 } // namespace ostrel

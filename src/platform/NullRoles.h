@@ -7,6 +7,7 @@
 #include "platform/Role.h"
 #include "platform/Screen.h"
 #include "platform/SettingsStore.h"
+#include "platform/Transfers.h"
 
 namespace ostrel {
 
@@ -29,5 +30,8 @@ Clipboard& NullObject<Clipboard>();
 /// Shows no page and raises no event.
 template <>
 BrowserPane& NullObject<BrowserPane>();
+/// Never connected.
+template <>
+Transfers& NullObject<Transfers>();
 
 } // namespace ostrel

@@ -8,6 +8,7 @@
 #include "platform/Role.h"
 #include "platform/Screen.h"
 #include "platform/SettingsStore.h"
+#include "platform/Transfers.h"
 
 namespace ostrel {
 
@@ -20,6 +21,7 @@ struct Platform {
     Role<Screen> screen;
     Role<Clipboard> clipboard;
     Role<BrowserPane> pane;
+    Role<Transfers> transfers;
 };
 
 } // namespace ostrel

@@ -13,6 +13,8 @@ public:
     /// Shows the panel without a gauge and with a heading over its Stop button, and clears the stop flags
     /// that the job then reads.
     virtual void Show(const Text& /*heading*/) {}
+    /// Puts the name of the file that the job is at in the place of the heading.
+    virtual void ShowItem(const Text& /*name*/) {}
     /// Hides the panel. The stop flags stay as the user left them.
     virtual void Hide() {}
     /// Shows the empty track of the gauge.
@@ -25,6 +27,18 @@ public:
         static StopPanel none;
         return none;
     }
+};
+
+/// Shows a panel while it lives, so that every way out of a job hides it.
+class StopPanelShown {
+public:
+    StopPanelShown(StopPanel& panel, const Text& heading) : panel_(panel) { panel_.Show(heading); }
+    ~StopPanelShown() { panel_.Hide(); }
+    StopPanelShown(const StopPanelShown&) = delete;
+    StopPanelShown& operator=(const StopPanelShown&) = delete;
+
+private:
+    StopPanel& panel_;
 };
 
 } // namespace ostrel

@@ -1,6 +1,9 @@
 #include "ui/AboutForm.h"
+#include "ui/CommonDialog.h"
 #include "ui/FormTable.h"
 #include "ui/MessageBox.h"
+#include "ui/OpenURLForm.h"
+#include "ui/PropertiesForm.h"
 
 namespace ostrel {
 
@@ -17,10 +20,10 @@ std::unique_ptr<Form> MakeMessageBox() {
 std::span<const FormMaker> UiForms() {
     using enum MessageButtons;
     static constexpr FormMaker Forms[]{
-        MakeForm<AboutForm>,         MakeMessageBox<Ok>,
-        MakeMessageBox<OkCancel>,    MakeMessageBox<AbortRetryIgnore>,
-        MakeMessageBox<YesNoCancel>, MakeMessageBox<YesNo>,
-        MakeMessageBox<RetryCancel>,
+        MakeForm<AboutForm>,      MakeForm<CommonDialog>,           MakeForm<DirectoryDialog>,
+        MakeForm<OpenURLForm>,    MakeForm<PropertiesForm>,         MakeMessageBox<Ok>,
+        MakeMessageBox<OkCancel>, MakeMessageBox<AbortRetryIgnore>, MakeMessageBox<YesNoCancel>,
+        MakeMessageBox<YesNo>,    MakeMessageBox<RetryCancel>,
     };
     return Forms;
 }

@@ -233,7 +233,7 @@ TEST(ToolbarClicks, GoTheirWay) {
     ControlBench bench;
     Text error;
     bench.web->ButtonAdd("Mine", "a.bmp", "", error);
-    bench.web->ToolbarFormat("Back Refresh Home Full Mine Open/Close");
+    bench.web->ToolbarFormat("Back Refresh Home Full Mine Edit/Close");
     bench.web->ToolbarVisible(true);
     bench.web->HomePage("C:\\home.htm");
     bench.Settle();
@@ -248,10 +248,10 @@ TEST(ToolbarClicks, GoTheirWay) {
     EXPECT_TRUE(bench.web->PressChild("full"));
     EXPECT_TRUE(bench.web->PressChild("mine"));
     EXPECT_TRUE(bench.web->PressChild("cmdButton(1)"));
-    EXPECT_TRUE(bench.web->PressChild("open"));
+    EXPECT_TRUE(bench.web->PressChild("edit"));
     EXPECT_EQ(bench.Take(),
               (Lines{"ToolbarClick Refresh False", "ToolbarClick Home False", "ToolbarClick Full False",
-                     "ToolbarClick Mine False", "ToolbarClick Mine False", "ToolbarClick Open False"}));
+                     "ToolbarClick Mine False", "ToolbarClick Mine False", "ToolbarClick Edit False"}));
     const auto asked = bench.Pane().TakeLog();
     ASSERT_EQ(asked.size(), 3u);
     EXPECT_EQ(asked[0].name + std::to_string(std::get<Long>(asked[0].arguments[0])), "Refresh23");
@@ -278,7 +278,7 @@ TEST(ToolbarClicks, ByCodeRaiseNothing) {
     EXPECT_EQ(bench.Pane().Focused(), focused + 1);
     bench.web->ButtonClick("Full");
     bench.web->ButtonClick("nobody");
-    bench.web->ButtonClick("search");
+    bench.web->ButtonClick("edit");
     EXPECT_EQ(bench.Pane().Focused(), focused + 2) << "not after full, nor for an unknown name";
     EXPECT_TRUE(bench.Take().empty());
     EXPECT_EQ(bench.Pane().TakeLog().size(), 2u);

@@ -1,10 +1,14 @@
 #include "desktop/FormWindowTest.h"
 
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <cmath>
 #include <memory>
 #include <stdexcept>
@@ -15,6 +19,8 @@
 #include "desktop/Twips.h"
 #include "support/TemporaryDirectory.h"
 #include "ui/AboutForm.h"
+#include "ui/CommonDialog.h"
+#include "ui/CommonDialogs.h"
 
 namespace ostrel::test {
 
@@ -253,12 +259,17 @@ void FormWindowTest::EveryFormCanBeWalked() {
     FormBench bench;
     for (const FormMaker make : bridge::FormMakers()) {
         const std::unique_ptr<Form> form = make();
+        // The toolkit's own pickers are walked by the toolkit's tests.
+        if (dynamic_cast<CommonDialog*>(form.get()) || dynamic_cast<DirectoryDialog*>(form.get())) continue;
         bool walked = false;
         bench.Show(*form, [&](QDialog& dialog) {
             QVERIFY(dialog.isVisible());
             QStringList stops, reached;
             for (const Control* control : form->Controls()) {
                 const auto* widget = dialog.findChild<QWidget*>(desktop::ToQt(control->name));
+                // Of options that exclude each other the chosen one is the stop.
+                const auto* option = dynamic_cast<const OptionButton*>(control);
+                if (option && !option->value) continue;
                 const bool isStop = control->TakesFocus() && control->Reachable() && widget &&
                                     widget->focusPolicy() & Qt::TabFocus;
                 if (isStop) stops += desktop::ToQt(control->name);
@@ -274,6 +285,36 @@ void FormWindowTest::EveryFormCanBeWalked() {
         });
         QVERIFY2(walked, form->name.c_str());
     }
+}
+
+void FormWindowTest::PickersAreTheSystems() {
+    FormBench bench;
+    QTemporaryDir directory;
+    const Text start =
+        "C:" + Text(QDir::toNativeSeparators(directory.path()).replace('/', '\\').toStdString());
+    FilePick pick;
+    pick.filter = "All Files|*.*|Text Files|*.txt; *.log";
+    pick.filterIndex = 2;
+    pick.directory = start;
+    pick.defaultExtension = "txt";
+    FormBench::Attend<QDialog>([&](QDialog& window) {
+        auto& dialog = *qobject_cast<QFileDialog*>(&window);
+        QCOMPARE(dialog.windowTitle(), "Open");
+        QCOMPARE(dialog.nameFilters(), (QStringList{"All Files (*)", "Text Files (*.txt *.log)"}));
+        QCOMPARE(dialog.selectedNameFilter(), dialog.nameFilters().last());
+        QCOMPARE(dialog.directory().path(), directory.path());
+        dialog.selectFile("new");
+        window.accept();
+    });
+    QCOMPARE(PickFile(bench.dialogs, At{}, pick), start + "\\new.txt");
+    QCOMPARE(pick.directory, start + "\\");
+    FormBench::Attend<QDialog>([](QDialog& window) { window.reject(); });
+    QCOMPARE(PickDirectory(bench.dialogs, At{}, "Where", start, 0), Text());
+    FormBench::Attend<QDialog>([](QDialog& window) {
+        qobject_cast<QColorDialog*>(&window)->setCurrentColor(QColor(1, 2, 3));
+        window.accept();
+    });
+    QCOMPARE(PickColour(bench.dialogs, At{}), Long{0x030201});
 }
 
 void FormWindowTest::DialogsStandBesideTheirButton() {

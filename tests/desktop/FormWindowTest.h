@@ -17,6 +17,7 @@ private slots:
     void FormsStandWhereTheySay();
     void DialogsStandBesideTheirButton();
     void OwnerMayGoFirst();
+    void PickersAreTheSystems();
     void EveryFormCanBeWalked();
     void FailureOfAHandlerReachesTheCaller();
     void AboutBox();

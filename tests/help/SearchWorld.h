@@ -9,7 +9,7 @@
 namespace ostrel::test {
 
 /// Writes down what a panel shows, and clears the stop flags as the control's does.
-class LoggedPanel : public help::JobPanel {
+class LoggedPanel : public StopPanel {
 public:
     explicit LoggedPanel(RunFlags& run) : run_(run) {}
 
@@ -56,8 +56,8 @@ struct SearchWorld : PageWorld {
     std::vector<Text> Found(const Text& phrase, bool matchCase = false, bool wholeWords = false) {
         std::vector<Text> lines;
         const help::SearchPages& pages = *store.pages;
-        const auto ranking = SearchAllPages(context, panel, *store.pages,
-                                            help::TermsOf(search, phrase, matchCase, wholeWords));
+        const auto ranking =
+            SearchAllPages(searchContext, *store.pages, help::TermsOf(search, phrase, matchCase, wholeWords));
         for (const help::RankedPage& ranked : ranking->best)
             lines.push_back(pages.pages[ranked.page].FileName() + " " +
                             FormatNumber(ranking->Percentage(ranked.score), "0.0"));
@@ -67,7 +67,9 @@ struct SearchWorld : PageWorld {
     SearchProperties search;
     help::SearchStore store;
     LoggedPanel panel{run};
-    help::SearchScope searchScope{scope, service, search, store, panel};
+    Context searchContext{events, platform, run, panel};
+    html::PageScope searchPage{searchContext, help, page, fonts, service};
+    help::SearchScope searchScope{searchPage, service, search, store};
     Text error, lastFileError;
 };
 

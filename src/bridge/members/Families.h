@@ -19,6 +19,8 @@ std::vector<Member> SettingsMembers();
 std::vector<Member> BrowserMembers();
 std::vector<Member> ProgressMembers();
 std::vector<Member> HelpMembers();
+std::vector<Member> HelpServiceMembers();
+std::vector<Member> DialogMembers();
 std::vector<Member> ToolbarMembers();
 std::vector<Member> MessageMembers();
 

@@ -55,6 +55,22 @@ std::vector<Member> HelpMembers() {
     };
 }
 
+std::vector<Member> HelpServiceMembers() {
+    return {
+        MEMBER(CreateIndex, "Font SpaceSections SpaceSectionHTML SpaceColumnHTML SpaceIdentHTML TopIndex "
+                            "BottomIndex IndexFont PadFont"),
+        MEMBER(IndexAdd, "Hyperlink Name Indent Extra IndexCharacter"),
+        MEMBER(IndexClear, ""),
+        MEMBER(PrintPage, ""),
+        MEMBER(PrintSelectedPages, "SelectMask IgnoreMask ErrorMessage"),
+        MEMBER(Search, "Mask ErrorMessage"),
+        MEMBER(SearchClear, ""),
+        MEMBER(SearchDisplay, "ErrorMessage"),
+        MEMBER(SearchLoad, "Mask ErrorMessage"),
+        MEMBER(SearchResultsCreate, "SearchString MatchCase WholeWords ErrorMessage"),
+    };
+}
+
 std::vector<Member> ToolbarMembers() {
     return {
         MEMBER(ButtonAdd, "Name BitMap ToolTip ErrorMessage"),

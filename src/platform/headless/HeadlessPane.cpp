@@ -116,7 +116,10 @@ void HeadlessPane::Refresh2(RefreshLevel level) {
 
 void HeadlessPane::ExecWB(PaneCommand command, PaneCommandOption option) {
     Note("ExecWB", {static_cast<Long>(command), static_cast<Long>(option)});
-    if (!held_ && command == PaneCommand::Print) AppendBounded(printed_, page_.url);
+    if (held_ || command != PaneCommand::Print) return;
+    // A page that is still loading would be printed blank.
+    while (load_ && clock_.Pending()) clock_.Yield();
+    AppendBounded(printed_, page_.url);
 }
 
 Text HeadlessPane::DocumentText(const Text& word) const {

@@ -19,6 +19,7 @@ HeadlessPlatform MakeHeadlessPlatform(bool virtualClock, std::unique_ptr<Files> 
         platform.clock = MakeNativeClock();
     platform.screen = std::make_unique<HeadlessScreen>();
     platform.clipboard = std::make_unique<HeadlessClipboard>();
+    platform.transfers = std::make_unique<HeadlessTransfers>(MakeNativeTransfers());
     platform.pane = std::make_unique<HeadlessPane>(*platform.clock, *platform.files);
     return platform;
 }

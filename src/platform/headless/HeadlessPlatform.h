@@ -4,6 +4,7 @@
 #include "platform/headless/HeadlessClipboard.h"
 #include "platform/headless/HeadlessPane.h"
 #include "platform/headless/HeadlessScreen.h"
+#include "platform/headless/HeadlessTransfers.h"
 #include "platform/headless/VirtualClock.h"
 
 namespace ostrel {
@@ -12,6 +13,7 @@ namespace ostrel {
 struct HeadlessPlatform : Platform {
     HeadlessPane& Pane() const { return static_cast<HeadlessPane&>(*pane); }
     HeadlessScreen& Display() const { return static_cast<HeadlessScreen&>(*screen); }
+    HeadlessTransfers& Network() const { return static_cast<HeadlessTransfers&>(*transfers); }
     /// Null where time is real.
     VirtualClock* VirtualTime() const { return dynamic_cast<VirtualClock*>(clock.get()); }
 };
