@@ -37,6 +37,7 @@ void PageCommands::Search(const QString& directory) {
         web.SearchClear();
         loaded_ = std::move(state);
     }
+    web.HelpTitle("Search Results");
     Text error;
     web.Search({}, error);
     if (!error.empty()) return notice_.TellTrouble(desktop::ToQt(error));

@@ -375,6 +375,7 @@ void DeskTest::HelpPagesAreSearched() {
     FormBench::Attend<QDialog>([](QDialog& dialog) {
         const auto* table = FormBench::Find<QTableWidget>(dialog, "grdData");
         QCOMPARE(table->item(0, 0)->text(), QString("Name:"));
+        QCOMPARE(table->item(0, 1)->text(), QString("Search Results"));
         FormBench::Click(dialog, "cmdClose");
     });
     bench.Action("properties")->trigger();
