@@ -1,9 +1,9 @@
 # The windowed layer is built where Qt with its browser engine is installed, unless it is asked for or ruled out.
 if(OSTREL_DESKTOP STREQUAL "AUTO")
-    find_package(Qt6 6.4 QUIET COMPONENTS Widgets WebEngineWidgets)
+    find_package(Qt6 6.4 QUIET COMPONENTS Widgets PrintSupport WebEngineWidgets)
     set(ostrel_with_desktop ${Qt6_FOUND})
 elseif(OSTREL_DESKTOP)
-    find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets WebEngineWidgets)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport WebEngineWidgets)
     set(ostrel_with_desktop ON)
 else()
     set(ostrel_with_desktop OFF)

@@ -23,8 +23,8 @@ constexpr qint64 MostCellsAtOnce = 3'000'000;
 MainWindow::MainWindow()
     : widget_(std::make_unique<desktop::OstrelWebHelpWidget>()), work_(*widget_), actions_(AddMenus(*this)),
       status_(*this, *widget_, work_, actions_), state_(*widget_->World().settings), notice_(new NoticeBar),
-      dock_(new QDockWidget), panels_(new QStackedWidget), options_(new OptionsPanel),
-      helpPages_(new HelpPagesPanel) {
+      commands_(*this, *widget_, work_, *notice_), dock_(new QDockWidget), panels_(new QStackedWidget),
+      options_(new OptionsPanel), helpPages_(new HelpPagesPanel) {
     Arrange();
     ConnectActions();
     RestoreState();

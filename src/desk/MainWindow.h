@@ -11,6 +11,7 @@
 #include "desk/Menus.h"
 #include "desk/NoticeBar.h"
 #include "desk/OptionsPanel.h"
+#include "desk/PageCommands.h"
 #include "desk/PaneStatus.h"
 #include "desk/ReportJob.h"
 #include "desk/TableFile.h"
@@ -58,6 +59,7 @@ private:
     void FillRecent();
     void AskForFile();
     void AskForDirectory();
+    void PrintToPdf();
     void OpenTable(const QString& path, const QString& table);
     void OpenPages(const QString& directory, const QString& page);
     void ShowHelpPage(const QString& name);
@@ -91,6 +93,7 @@ private:
     DeskState state_;
     DeskPages pages_;
     NoticeBar* notice_;
+    PageCommands commands_;
     QDockWidget* dock_;
     QStackedWidget* panels_;
     OptionsPanel* options_;

@@ -60,6 +60,7 @@ void MainWindow::Arrange() {
     OstrelWebHelp& web = widget_->Web();
     web.ProgramName(ApplicationTitle);
     // Only the buttons whose actions are implemented.
+    web.SearchLocation(owhSearchLocal);
     web.ToolbarFormat("Back Forward Space Stop Refresh Home Space Full");
     setAcceptDrops(true);
     // The engine would take what is dropped for a page to load.
@@ -71,6 +72,12 @@ void MainWindow::ConnectActions() {
     connect(&work_, &Work::Changed, this, &MainWindow::WorkChanged);
     connect(actions_.open, &QAction::triggered, this, &MainWindow::AskForFile);
     connect(actions_.openDirectory, &QAction::triggered, this, &MainWindow::AskForDirectory);
+    connect(actions_.openAddress, &QAction::triggered, this, [this] { commands_.Press("Open"); });
+    connect(actions_.properties, &QAction::triggered, this, [this] { commands_.Press("Properties"); });
+    connect(actions_.print, &QAction::triggered, this, [this] { commands_.Print(); });
+    connect(actions_.printToPdf, &QAction::triggered, this, &MainWindow::PrintToPdf);
+    connect(actions_.search, &QAction::triggered, this,
+            [this] { commands_.Search(helpPages_->Directory()); });
     connect(actions_.recent, &QMenu::aboutToShow, this, &MainWindow::FillRecent);
     connect(actions_.quit, &QAction::triggered, this, &QWidget::close);
     connect(actions_.make, &QAction::triggered, this, &MainWindow::MakeReport);
@@ -99,11 +106,13 @@ void MainWindow::ConnectActions() {
 void MainWindow::WorkChanged() {
     const bool free = !work_.Running();
     for (QAction* action :
-         {actions_.open, actions_.openDirectory, actions_.recent->menuAction(), actions_.about})
+         {actions_.open, actions_.openDirectory, actions_.openAddress, actions_.print, actions_.printToPdf,
+          actions_.properties, actions_.recent->menuAction(), actions_.about})
         action->setEnabled(free);
     actions_.make->setEnabled(free && file_ && TableOnView());
     actions_.reportOptions->setEnabled(free && file_ && !TableOnView());
     actions_.helpPages->setEnabled(free && TableOnView() && !helpPages_->Directory().isEmpty());
+    actions_.search->setEnabled(free && !TableOnView() && !helpPages_->Directory().isEmpty());
     actions_.showFolder->setEnabled(free && OpensFolders() && !report_.isEmpty());
     actions_.panel->setEnabled(free && PanelFilled());
     options_->setEnabled(free);
@@ -170,6 +179,11 @@ void MainWindow::AskForFile() {
     if (path.isEmpty()) return;
     state_.SetDirectory("Open", QFileInfo(path).path());
     Open(path);
+}
+
+void MainWindow::PrintToPdf() {
+    const QString directory = commands_.PrintToPdf(state_.Directory("Pdf"));
+    if (!directory.isEmpty()) state_.SetDirectory("Pdf", directory);
 }
 
 void MainWindow::AskForDirectory() {

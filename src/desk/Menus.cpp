@@ -29,8 +29,13 @@ Actions AddMenus(QMainWindow& window) {
     QMenu& file = *bar.addMenu("&File");
     actions.open = Add(file, "open", "&Open…", QKeySequence::Open);
     actions.openDirectory = Add(file, "openDirectory", "Open &Help Directory…", QKeySequence("Ctrl+Shift+O"));
+    actions.openAddress = Add(file, "openAddress", "Open &Address…", QKeySequence("Ctrl+L"));
     actions.recent = file.addMenu("Open &Recent");
     actions.recent->setObjectName("recent");
+    file.addSeparator();
+    actions.print = Add(file, "print", "&Print", QKeySequence::Print);
+    actions.printToPdf = Add(file, "printToPdf", "Print to P&DF…");
+    actions.properties = Add(file, "properties", "Page P&roperties", QKeySequence("Alt+Return"));
     file.addSeparator();
     actions.quit = Add(file, "quit", "&Quit", QKeySequence("Ctrl+Q"));
 
@@ -53,6 +58,8 @@ Actions AddMenus(QMainWindow& window) {
     actions.forward = Add(go, "forward", "&Forward", QKeySequence("Alt+Right"));
     actions.home = Add(go, "home", "&Home", QKeySequence("Alt+Home"));
     actions.refresh = Add(go, "refresh", "&Refresh", QKeySequence("F5"));
+    go.addSeparator();
+    actions.search = Add(go, "search", "&Search the Help Pages…", QKeySequence("Ctrl+Shift+F"));
 
     QMenu& help = *bar.addMenu("&Help");
     actions.about = Add(help, "about", "&About " + QString(ApplicationTitle) + "…");

@@ -10,11 +10,11 @@ inline constexpr const char* ApplicationTitle = "Ostrel Desk";
 
 /// What the menus of the main window offer.
 struct Actions {
-    QAction *open, *openDirectory, *quit;
+    QAction *open, *openDirectory, *openAddress, *print, *printToPdf, *properties, *quit;
     QMenu* recent;
     QAction *make, *stop, *showFolder;
     QAction *panel, *reportOptions, *helpPages, *toolbar, *address;
-    QAction *back, *forward, *home, *refresh;
+    QAction *back, *forward, *home, *refresh, *search;
     QAction* about;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,6 +25,8 @@ constexpr TextView BlankPage = "about:blank";
 constexpr qsizetype MostNames = 10'000;
 /// How long a page that was told to stop may leave each of two questions open, in milliseconds.
 constexpr int Patience = 450;
+/// How long a page that is to be printed may take to load, in milliseconds.
+constexpr int LongestLoad = 60'000;
 
 QString Quoted(const QString& text) {
     const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
@@ -40,7 +43,7 @@ QtPane::QtPane(QWidget& host)
               return MayGo(url, type, mainFrame);
           },
           [this] { return OpenWindow(); })),
-      windows_(profile_) {
+      windows_(profile_), printer_(*view_) {
     PaneTrust::Hold(*page_);
     view_->setPage(page_.get());
     auto* layout = new QVBoxLayout(&host);
@@ -176,6 +179,7 @@ void QtPane::GoHome() { Navigate(Text(BlankPage)); }
 void QtPane::GoSearch() { Navigate(Text(BlankPage)); }
 
 void QtPane::Stop() {
+    printer_.Stop();
     ++requests_;
     asked_.reset();
     page_->triggerAction(QWebEnginePage::Stop);
@@ -249,8 +253,19 @@ void QtPane::Refresh2(RefreshLevel level) {
 }
 
 void QtPane::ExecWB(PaneCommand command, PaneCommandOption) {
+    if (command == PaneCommand::Print) Print();
     if (command == PaneCommand::Copy) page_->triggerAction(QWebEnginePage::Copy);
     if (command == PaneCommand::SelectAll) page_->triggerAction(QWebEnginePage::SelectAll);
+}
+
+void QtPane::Print() {
+    // A page that is still loading would be printed blank.
+    for (const QDeadlineTimer deadline(LongestLoad); Loading() && !deadline.hasExpired();)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    const QString trouble = printer_.Print(FrameFiles::FileOf(shown_));
+    if (trouble.isEmpty()) return;
+    notice_.setText(trouble);
+    notice_.show();
 }
 
 Text QtPane::LocationName() const { return FromQt(page_->title()); }
@@ -259,8 +274,8 @@ Text QtPane::LocationURL() const { return Told(shown_); }
 
 LoadState QtPane::ReadyState() const {
     using enum LoadState;
-    if (asked_) return Loading;
-    if (load_ && !load_->halting) return load_->committed ? Interactive : Loading;
+    if (asked_) return LoadState::Loading;
+    if (load_ && !load_->halting) return load_->committed ? Interactive : LoadState::Loading;
     return shown_.isEmpty() ? Uninitialised : Complete;
 }
 

@@ -12,6 +12,7 @@
 
 #include "desktop/BrowserWindows.h"
 #include "desktop/PanePage.h"
+#include "desktop/PanePrinter.h"
 #include "desktop/PaneSockets.h"
 #include "desktop/PaneTrust.h"
 #include "platform/BrowserPane.h"
@@ -45,11 +46,13 @@ public:
     /// without end, is ended; a line in the pane reports it.
     void Stop() override;
     void Refresh2(RefreshLevel level) override;
-    /// Copies the selection or selects all; other commands are left alone.
+    /// Prints the page, copies the selection or selects all; other commands are left alone. A page that is
+    /// still loading is printed when it has come. A print without a printer is reported by a line in the
+    /// pane.
     void ExecWB(PaneCommand command, PaneCommandOption option) override;
     Text LocationName() const override;
     Text LocationURL() const override;
-    bool Busy() const override { return (load_ && !load_->halting) || asked_; }
+    bool Busy() const override { return Loading() || printer_.Busy(); }
     LoadState ReadyState() const override;
     bool Offline() const override { return trust_.Offline(); }
     void Offline(bool offline) override { trust_.Offline(offline); }
@@ -58,6 +61,8 @@ public:
     void Focus() override;
 
     QWebEngineView& View() { return *view_; }
+    /// How pages are printed.
+    PanePrinter& Printer() { return printer_; }
     /// The browser windows beside the pane.
     BrowserWindows& Windows() { return windows_; }
 
@@ -91,6 +96,8 @@ private:
     /// The engine's process of the page has come to its end.
     void ProcessEnded();
     void AskEngineAgain();
+    bool Loading() const { return (load_ && !load_->halting) || asked_; }
+    void Print();
     /// Whether the load in hand has yet to come, in whole or in part.
     bool Coming() const { return load_ && !load_->loaded; }
     /// Whether the engine has been asked to load it again and has not begun.
@@ -137,6 +144,7 @@ private:
     std::unique_ptr<QWebEngineView> view_;
     std::unique_ptr<PanePage> page_;
     BrowserWindows windows_;
+    PanePrinter printer_;
     QLabel notice_;
 
     BrowserSink* sink_ = nullptr;

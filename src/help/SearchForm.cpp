@@ -10,7 +10,7 @@ namespace {
 
 constexpr Long Width = 5400;
 /// The heights of the parts of the window.
-constexpr Long PhraseHeight = 2400, OptionsHeight = 2700, PlaceHeight = 1000;
+constexpr Long PhraseHeight = 2100, OptionsHeight = 1700, PlaceHeight = 900;
 
 } // namespace
 

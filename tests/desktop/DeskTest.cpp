@@ -12,10 +12,12 @@
 #include <QMimeData>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTest>
 
 #include "desk/CommandLine.h"
 #include "desktop/DeskBench.h"
+#include "desktop/FormBench.h"
 
 namespace ostrel::test {
 
@@ -347,6 +349,36 @@ void DeskTest::DirectoryOpensOnItsMainPage() {
     desk::HelpPagesModel model;
     QVERIFY(model.Fill(QString::fromStdString(directory.Path())));
     QCOMPARE(model.FirstPage(), first);
+}
+
+void DeskTest::HelpPagesAreSearched() {
+    DeskBench bench;
+    QVERIFY(!bench.Action("search")->isEnabled());
+    bench.directory.Write("a.htm", "<HEAD><TITLE>Apples</TITLE></HEAD>green");
+    bench.directory.Write("b.htm", "<HEAD><TITLE>Pears</TITLE></HEAD><BODY>green pears</BODY>");
+    bench.Open("");
+    const auto search = [&](const char* phrase) {
+        FormBench::Attend<QDialog>([&](QDialog& dialog) {
+            FormBench::Find<QLineEdit>(dialog, "txtSearch")->setFocus();
+            QTest::keyClicks(FormBench::Find<QLineEdit>(dialog, "txtSearch"), phrase);
+            FormBench::Click(dialog, "cmdOK");
+        });
+        bench.Action("search")->trigger();
+        bench.Settle();
+        return bench.Script("document.body.innerText").toString();
+    };
+    QVERIFY(search("pears").contains("100.0"));
+    QCOMPARE(bench.Follow("Pears"), QString("b.htm"));
+    // What was written since the last search is found.
+    bench.directory.Write("c.htm", "<HEAD><TITLE>Plums</TITLE></HEAD><BODY>pears as well</BODY>");
+    QVERIFY(search("").contains("Plums"));
+    FormBench::Attend<QDialog>([](QDialog& dialog) {
+        const auto* table = FormBench::Find<QTableWidget>(dialog, "grdData");
+        QCOMPARE(table->item(0, 0)->text(), QString("Name:"));
+        QCOMPARE(table->item(0, 1)->text(), QString("Search Results"));
+        FormBench::Click(dialog, "cmdClose");
+    });
+    bench.Action("properties")->trigger();
 }
 
 void DeskTest::OptionsComeBackFromHelpPages() {

@@ -28,6 +28,7 @@ private slots:
     void HelpPagesAreShownByClicks();
     void DirectoryOpensOnItsMainPage_data();
     void DirectoryOpensOnItsMainPage();
+    void HelpPagesAreSearched();
     void OptionsComeBackFromHelpPages();
     void DroppedFileOpens();
     void CommandLineIsRead_data();

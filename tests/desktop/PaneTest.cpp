@@ -1,12 +1,17 @@
 #include "desktop/PaneTest.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "desktop/DesktopBench.h"
 #include "desktop/LocalServer.h"
+#include "text/NumberText.h"
 
 namespace ostrel::test {
 
@@ -380,6 +385,39 @@ void PaneTest::ManyLoadsKeepNothing() {
     const double after = ResidentMegabytes();
     qInfo("200 loads: %.0f MB before, %.0f MB after", before, after);
     QVERIFY(after < before * 1.15 + 20);
+}
+
+void PaneTest::PagesArePrintedWhole() {
+    const QString reader = QStandardPaths::findExecutable("pdftotext");
+    if (reader.isEmpty()) QSKIP("pdftotext is not there to read what was printed");
+    DesktopBench bench;
+    constexpr int Pages = 6;
+    for (int i = 1; i <= Pages; ++i)
+        bench.Page("p" + FromLong(i) + ".htm", "<P>Content " + FromLong(i) + "</P>");
+    const Text before = bench.Page("p1.html", "<P>Other ending</P>");
+    bench.directory.Write("note.txt", "");
+    QVERIFY(bench.Load(before));
+    QTemporaryDir paper;
+    bench.widget.Pane().Printer().SetPdfDirectory(paper.path());
+    bench.Web().DirectoryHelp(bench.directory.Component());
+    Text error;
+    QVERIFY(bench.Web().PrintSelectedPages("*.htm*", "", error));
+    QCOMPARE(error, Text());
+    QCOMPARE(QDir(paper.path()).entryList(QDir::Files).size(), Pages + 1);
+    const auto content = [&](const QString& name) {
+        QProcess process;
+        process.start(reader, {paper.filePath(name), "-"});
+        (void)process.waitForFinished();
+        return QString(process.readAllStandardOutput()).simplified();
+    };
+    for (int i = 1; i <= Pages; ++i)
+        QCOMPARE(content(QString("p%1.pdf").arg(i)), QString("Content %1").arg(i));
+    QCOMPARE(content("p1.html.pdf"), QString("Other ending"));
+    QVERIFY(WaitUntil([&] { return !bench.Web().Busy() && bench.Web().LocationURL() == before; }));
+    // A directory that is gone is reported in the pane, and the call returns.
+    bench.widget.Pane().Printer().SetPdfDirectory(paper.filePath("gone"));
+    bench.Web().PrintPage();
+    QVERIFY(bench.widget.findChild<QLabel*>("paneNotice")->text().contains("can't be written"));
 }
 
 } // namespace ostrel::test

@@ -37,6 +37,7 @@ private slots:
     void PagesHaveNoSockets();
     void FindsAndZooms();
     void DocumentTextIsRead();
+    void PagesArePrintedWhole();
     void ManyLoadsKeepNothing();
 };
 
